@@ -1,0 +1,34 @@
+// The lower bound of "copy, then rewrite in place": copies the reference folder into the language
+// folder, then reads each page file of the copy, deletes it and writes the same bytes anew.
+
+#include "yardstick.hpp"
+
+namespace {
+
+using namespace yardstick;
+
+void rewritePages(const Folder& folder, Buffer& buffer)
+{
+    for (const auto& [name, inner] : folder.entries()) {
+        if (inner) {
+            rewritePages(Folder(folder.get(), name.c_str()), buffer);
+        } else if (isPage(name)) {
+            const std::size_t size = readWhole(folder.get(), name.c_str(), buffer);
+            if (::unlinkat(folder.get(), name.c_str(), 0) != 0) {
+                fail(name.c_str());
+            }
+            writeNew(folder.get(), name.c_str(), buffer.data(), size);
+        }
+    }
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments)
+{
+    return run(argumentCount, arguments,
+               [](const char* reference, const char* language, Buffer& buffer) {
+                   copyFolder(reference, language, buffer);
+                   rewritePages(Folder(AT_FDCWD, language), buffer);
+               });
+}

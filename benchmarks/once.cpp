@@ -1,0 +1,9 @@
+// Writes each file just once: reads it from the reference folder and writes it to the language
+// folder. What a procedure without the rewriting in place could reach.
+
+#include "yardstick.hpp"
+
+int main(int argumentCount, char** arguments)
+{
+    return yardstick::run(argumentCount, arguments, yardstick::copyFolder);
+}

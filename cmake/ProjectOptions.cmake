@@ -1,0 +1,18 @@
+# What every target of the project is compiled with: the language level, warnings as errors and, when asked for,
+# the sanitizers. A target takes part by linking cvlang_options.
+add_library(cvlang_options INTERFACE)
+target_compile_features(cvlang_options INTERFACE cxx_std_20)
+set(CMAKE_CXX_EXTENSIONS OFF)
+target_compile_options(cvlang_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Werror)
+if(CVLANG_SANITIZE)
+    target_compile_options(cvlang_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(cvlang_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(WIN32)
+    # The release is one file that needs nothing but what Windows ships.
+    target_link_options(cvlang_options INTERFACE -static)
+    target_compile_definitions(cvlang_options INTERFACE
+        UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0A00)
+endif()

@@ -1,0 +1,11 @@
+# cvlang_room(NAME SOURCES ... USES ...)
+# One folder of src/ as a static library, cvlang_NAME, that links the rooms it may use and no others.
+function(cvlang_room name)
+    cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
+    add_library(cvlang_${name} STATIC ${ROOM_SOURCES})
+    target_include_directories(cvlang_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(cvlang_${name} PRIVATE cvlang_options)
+    foreach(used IN LISTS ROOM_USES)
+        target_link_libraries(cvlang_${name} PUBLIC cvlang_${used})
+    endforeach()
+endfunction()

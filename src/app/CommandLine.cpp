@@ -1,0 +1,36 @@
+#include "app/CommandLine.h"
+
+#include "generation/ContentTree.h"
+
+namespace cvlang {
+
+std::u16string GetQuotedField(std::u16string_view sText, char16_t delimiter, int n) {
+    std::u16string field;
+    int counter = 1;
+    bool inQuotes = false;
+    for (const char16_t c : sText) {
+        if (c == delimiter && !inQuotes) {
+            ++counter;
+        } else if (c == u'"' && c != delimiter) {
+            inQuotes = !inQuotes;
+        } else if (counter == n) {
+            field += c;
+        }
+    }
+    return field;
+}
+
+ExitStatus RunCommandLine(Program& program, std::u16string_view sCommandLine) {
+    program.unattended = true;
+    const std::u16string application = GetQuotedField(sCommandLine, u' ', 1);
+    const std::u16string base = GetQuotedField(sCommandLine, u' ', 2);
+    const std::u16string language = GetQuotedField(sCommandLine, u' ', 3);
+    if (base.empty() || application.empty()) {
+        program.messages.Show({u"Invalid arguments"});
+        return ExitStatus::InvalidArguments;
+    }
+    ApplyTranslation(program, application, base, language);
+    return ExitStatus::Generated;
+}
+
+}  // namespace cvlang

@@ -1,0 +1,27 @@
+// What one run of the program shares: start-up creates it and passes it down.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "config/Configuration.h"
+#include "config/Logs.h"
+#include "config/UserMessages.h"
+
+namespace cvlang {
+
+struct Program {
+    const Configuration& config;
+    Logs& logs;
+    UserMessages& messages;
+
+    /// The application that is selected in the window.
+    std::u16string CurrentApplication{};
+    /// How often each token of the array was replaced, counted over all runs of the process.
+    std::vector<std::int32_t> tokenUseCounts{};
+    /// Set when the program works without a window: no question is asked.
+    bool unattended = false;
+};
+
+}  // namespace cvlang

@@ -1,0 +1,81 @@
+#include "config/TextHelpers.h"
+
+#include <cstdint>
+
+namespace cvlang {
+namespace {
+
+std::u16string Hexadecimal(std::uint32_t number) {
+    std::u16string digits;
+    do {
+        digits.insert(digits.begin(), u"0123456789ABCDEF"[number % 16]);
+        number /= 16;
+    } while (number != 0);
+    return digits;
+}
+
+std::u16string PaddedHexadecimal(std::uint32_t number, int width) {
+    const std::u16string digits = Hexadecimal(number);
+    return ZeroPad(width, static_cast<int>(digits.size())) + digits;
+}
+
+/// The digits as a number format of two places leaves them: it pads what reads as a decimal number, and "A" does not.
+std::u16string FormattedByte(std::uint8_t byte) {
+    return byte < 10 ? PaddedHexadecimal(byte, 2) : Hexadecimal(byte);
+}
+
+}  // namespace
+
+std::u16string_view SplitField(std::u16string_view text, std::u16string_view delimiter, int n) {
+    if (n < 1)
+        return {};
+    for (int field = 1;; ++field) {
+        const std::size_t end =
+            delimiter.empty() ? std::u16string_view::npos : text.find(delimiter);
+        if (field == n)
+            return text.substr(0, end);
+        if (end == std::u16string_view::npos)
+            return {};
+        text.remove_prefix(end + delimiter.size());
+    }
+}
+
+std::u16string_view GetStringBetween(std::u16string_view text, std::u16string_view startMarker,
+                                     std::u16string_view endMarker) {
+    const std::size_t marker = text.find(startMarker);
+    if (marker == std::u16string_view::npos)
+        return {};
+    const std::size_t start = marker + startMarker.size();
+    const std::size_t end = text.find(endMarker, start);
+    return end == std::u16string_view::npos ? std::u16string_view() : text.substr(start, end - start);
+}
+
+int CountFields(std::u16string_view text, std::u16string_view delimiter) {
+    constexpr int kMost = 50;
+    int count = 0;
+    std::size_t position = 0;
+    do {
+        position = position < text.size() ? text.find(delimiter, position) : text.npos;
+        ++count;
+    } while (position++ != text.npos && count < kMost);
+    return count;
+}
+
+std::u16string ZeroPad(int width, int length) {
+    return std::u16string(static_cast<std::size_t>(width > length ? width - length : 0), u'0');
+}
+
+std::u16string CreateGuidString(const GuidSource& newGuid) {
+    const auto guid = newGuid();
+    if (!guid)
+        return u"00000000";
+    std::u16string text = PaddedHexadecimal(guid->first, 8) + PaddedHexadecimal(guid->second, 4) +
+                          PaddedHexadecimal(guid->third, 4);
+    for (const std::uint8_t byte : guid->last)
+        text += FormattedByte(byte);
+    return text;
+}
+
+std::u16string GetLocalComputerName() { return ComputerName(); }
+
+}  // namespace cvlang

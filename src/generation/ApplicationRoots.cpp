@@ -1,0 +1,61 @@
+#include "generation/ApplicationRoots.h"
+
+#include <initializer_list>
+
+#include "platform/LetterCase.h"
+#include "platform/Paths.h"
+#include "translation/MapFilePaths.h"
+
+namespace cvlang {
+namespace {
+
+struct NetBase {
+    std::u16string_view upperName;
+    std::u16string_view webMailFolder;
+    std::u16string_view webAdminFolder;
+};
+
+// Spelled as the mail server installs them, which is not the same for both applications.
+constexpr NetBase kNetBases[] = {
+    {u"DEFAULT.NET", u"default", u"default"},
+    {u"ENTERPRISE.NET", u"Enterprise", u"enterprise"},
+    {u"ZEPHRA.NET", u"Zephra", u"Zephra"},
+    {u"KESTO.NET", u"Kesto", u"Kesto"},
+};
+
+std::u16string JoinPath(std::initializer_list<std::u16string_view> parts) {
+    std::u16string path;
+    for (const std::u16string_view part : parts) {
+        if (part.data() != parts.begin()->data())
+            path += kSeparator;
+        path += part;
+    }
+    return path;
+}
+
+}  // namespace
+
+std::u16string GetLanguageRoot(const Configuration& config, std::u16string_view application,
+                               std::u16string_view base) {
+    const bool webMail = ToUpper(application) == u"WEBMAIL";
+    const std::u16string sourceRoot = config.GetSourceRoot();
+    if (!sourceRoot.empty())
+        return JoinPath({sourceRoot, webMail ? u"WebMail" : u"WebAdmin", u"base", base, u"lang"});
+
+    // As stored, without the usual place of installation: pages are never generated where nothing is installed.
+    const std::u16string directory = config.GetProgramDirectory();
+    const std::u16string upperBase = ToUpper(base);
+    for (const NetBase& net : kNetBases) {
+        if (net.upperName != upperBase)
+            continue;
+        return webMail ? JoinPath({directory, u"NETWebMail", net.webMailFolder, u"lang"})
+                       : JoinPath({directory, u"NETWebAdmin", net.webAdminFolder, u"lang"});
+    }
+    return {};
+}
+
+std::u16string GetReferenceLanguageCode(const Configuration& config) {
+    return config.GetAuthoringVersion() >= kNewNamesVersion ? u"SYS" : u"EN";
+}
+
+}  // namespace cvlang

@@ -1,0 +1,113 @@
+#include "generation/ContentTree.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "generation/ApplicationRoots.h"
+#include "platform/Ansi.h"
+#include "platform/FileSystem.h"
+#include "platform/FolderCopy.h"
+#include "platform/Paths.h"
+#include "translation/LanguageTable.h"
+#include "translation/TokenMapFile.h"
+
+namespace cvlang {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Names of files that are pages end so, in any case.
+constexpr std::string_view kPageEndings[] = {".ASP", ".ASCX", ".ASPX", ".JS", ".XML"};
+
+bool EndsWith(const fs::path::string_type& name, std::string_view upperEnding) {
+    return name.size() >= upperEnding.size() &&
+           std::equal(upperEnding.rbegin(), upperEnding.rend(), name.rbegin(), [](char e, auto c) {
+               return c == e || (e >= 'A' && c == e - 'A' + 'a');
+           });
+}
+
+bool IsPage(const fs::path& name) {
+    return std::any_of(std::begin(kPageEndings), std::end(kPageEndings),
+                       [&name](std::string_view ending) { return EndsWith(name.native(), ending); });
+}
+
+struct ContentFolders {
+    fs::path reference;
+    fs::path language;
+    /// Without a language root and an abbreviation the language's folder would be the root of the drive, and every page
+    /// on it would be rewritten. Nothing is done then.
+    bool areTheDrive = false;
+};
+
+ContentFolders FoldersOf(const Configuration& config, std::u16string_view application,
+                         std::u16string_view base, std::u16string_view language) {
+    const std::u16string root = GetLanguageRoot(config, application, base);
+    const std::u16string abbreviation =
+        GetLanguageAbbreviation(config, application, language, base);
+    return {FindExisting(PathFromText(root + kSeparator + GetReferenceLanguageCode(config))),
+            FindExisting(PathFromText(root + kSeparator + abbreviation)),
+            root.empty() && abbreviation.empty()};
+}
+
+bool MayOverwrite(Program& program) {
+    return program.messages.Show(
+               {u"Web Content for this Language already exists, do you wish to overwrite it?",
+                std::u16string(kProgramTitle), MessageButtons::YesNo, MessageIcon::Question}) !=
+           MessageAnswer::No;
+}
+
+void TraceTokenUse(Program& program, const std::vector<std::u16string>& arrTokens) {
+    for (std::size_t i = 1; i < arrTokens.size(); ++i) {
+        const std::string count =
+            std::to_string(i < program.tokenUseCounts.size() ? program.tokenUseCounts[i] : 0);
+        program.logs.LogTranslationTrace(arrTokens[i] + u"\t" + AnsiToUtf16(count));
+    }
+}
+
+}  // namespace
+
+bool ApplyTranslation(Program& program, std::u16string_view sApplication, std::u16string_view sBase,
+                      std::u16string_view sLanguage) {
+    if (!PrepareLanguageFolder(program, sApplication, sBase, sLanguage, 1))
+        return false;
+    std::vector<std::u16string> arrTokens(1);
+    std::vector<std::u16string> arrValues(1);
+    LoadTokens(program.config, sApplication, sBase, sLanguage, arrTokens, arrValues);
+    PageTranslator pages(program, sLanguage, sBase, sApplication, arrTokens, arrValues);
+    const ContentFolders folders = FoldersOf(program.config, sApplication, sBase, sLanguage);
+    if (!folders.areTheDrive)
+        TranslateFolder(folders.language, pages, true);
+    if (program.config.IsDebugMode())
+        TraceTokenUse(program, arrTokens);
+    return true;
+}
+
+bool PrepareLanguageFolder(Program& program, std::u16string_view sApplication,
+                           std::u16string_view sBase, std::u16string_view sLanguage,
+                           int iNoPrompt) {
+    const ContentFolders folders = FoldersOf(program.config, sApplication, sBase, sLanguage);
+    if (folders.areTheDrive)
+        return true;
+    const bool existed = !CreateFolder(folders.language);
+    if (iNoPrompt == 0 && !program.unattended && existed && !MayOverwrite(program))
+        return false;
+    CopyFilesOf(folders.reference, folders.language, CopiedAttributes::Archive);
+    CopyFoldersOf(folders.reference, folders.language);
+    return true;
+}
+
+void TranslateFolder(const fs::path& sFolderPath, PageTranslator& pages, bool bRecurse) {
+    const FolderListing listing = ListFolder(sFolderPath);
+    if (bRecurse) {
+        for (const fs::path& name : listing.folders)
+            TranslateFolder(sFolderPath / name, pages, bRecurse);
+    }
+    for (const fs::path& name : listing.files) {
+        const fs::path page = sFolderPath / name;
+        if (IsPage(name) && !pages.HasCreated(page))
+            pages.TranslateFile(page, true);
+    }
+}
+
+}  // namespace cvlang

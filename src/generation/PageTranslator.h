@@ -1,0 +1,48 @@
+// Turns one page of an application base into a language's page.
+#pragma once
+
+#include <filesystem>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "config/Program.h"
+#include "generation/PlaceholderSubstitution.h"
+#include "generation/TokenIndex.h"
+#include "platform/FileSystem.h"
+
+namespace cvlang {
+
+/// What the pages of one run share.
+class PageTranslator {
+  public:
+    /// Language, base and application name the language's folder; the arrays are those of LoadTokens.
+    PageTranslator(Program& program, std::u16string_view sLanguage, std::u16string_view sBase,
+                   std::u16string_view sApplication, const std::vector<std::u16string>& arrTokens,
+                   const std::vector<std::u16string>& arrValues);
+
+    /// Reads a page, replaces its placeholders and writes it, as UTF-8 behind a byte-order mark, to the mirrored path in the
+    /// language's folder, which is the page itself when it lies there already. Values are escaped where they land in
+    /// script, unless the flag is false. A page that cannot be read leaves a line in the log, one that cannot be written
+    /// is not produced.
+    void TranslateFile(const std::filesystem::path& sSourcePath, bool bScriptAware);
+
+    /// Whether this object wrote that file in the place of none. It is translated already.
+    bool HasCreated(const std::filesystem::path& path) const { return created_.count(path) != 0; }
+
+  private:
+    std::filesystem::path DestinationOf(const std::filesystem::path& source) const;
+    void WritePage(const std::filesystem::path& source, const std::filesystem::path& destination);
+
+    Program& program_;
+    std::filesystem::path::string_type referencePart_;  // "\SYS\"
+    std::filesystem::path::string_type languagePart_;   // "\FR\"
+    TokenIndex tokens_;
+    PlaceholderSubstitution substitution_;
+    FileContent source_;
+    std::string page_;
+    std::set<std::filesystem::path> created_;
+};
+
+}  // namespace cvlang

@@ -1,0 +1,223 @@
+#include "generation/PlaceholderSubstitution.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "generation/PageEncoding.h"
+#include "generation/PageLines.h"
+
+namespace cvlang {
+namespace {
+
+// Tokens are numbered with 16 bits; installations rely on pages being left alone beyond that.
+constexpr TokenNumber kMostTokens = std::numeric_limits<std::int16_t>::max();
+
+bool HoldsPlaceholder(std::string_view text) {
+    return text.find(kPlaceholderPrefix) != std::string_view::npos;
+}
+
+std::size_t SkipBlankLines(std::string_view text, std::size_t position) {
+    while (text.substr(position, kPageLineEnd.size()) == kPageLineEnd)
+        position += kPageLineEnd.size();
+    return position;
+}
+
+/// The start of the line that `position` lies on, no earlier than `from`.
+std::size_t LineStart(std::string_view text, std::size_t from, std::size_t position) {
+    const std::size_t end = text.substr(from, position - from).rfind('\n');
+    return end == std::string_view::npos ? from : from + end + 1;
+}
+
+std::size_t FindBracket(std::string_view text, std::size_t from) {
+    while (from < text.size() && text[from] != '[' && text[from] != ']')
+        ++from;
+    return from;
+}
+
+}  // namespace
+
+PlaceholderSubstitution::PlaceholderSubstitution(const TokenIndex& tokens,
+                                                 std::vector<std::int32_t>& useCounts)
+    : tokens_(tokens),
+      useCounts_(useCounts),
+      countedOn_(static_cast<std::size_t>(tokens.UpperBound()) + 1),
+      linesByEmptyTokens_(tokens.EmptyTokens().size() + 1) {}
+
+bool PlaceholderSubstitution::Translate(std::string_view page, ScriptMode mode,
+                                        std::string& output) {
+    const std::string_view text = JoinLines(page, joinedLines_);
+    const std::size_t outputStart = output.size();
+    ScriptTracker script(text, mode);
+    std::size_t position = 0;
+    for (;;) {
+        // A line that became empty at the start of the output is dropped like one that was empty from the first.
+        if (output.size() == outputStart)
+            position = SkipBlankLines(text, position);
+        const std::size_t placeholder = text.find(kPlaceholderPrefix, position);
+        if (placeholder == std::string_view::npos)
+            break;
+        if (tokens_.UpperBound() > kMostTokens)
+            return false;
+        const std::size_t start = LineStart(text, position, placeholder);
+        const std::size_t end = std::min(text.find(kPageLineEnd, placeholder), text.size());
+        output += text.substr(position, start - position);
+        TranslateLine({text.substr(start, end - start), end, script}, output);
+        position = end;
+    }
+    output += text.substr(position);
+    SumUpEmptyTokens();
+    return true;
+}
+
+void PlaceholderSubstitution::TranslateLine(const Line& line, std::string& output) {
+    replaced_.clear();
+    if (!tokens_.IrregularTokens().empty() || !ReplaceAtOnce(line, output))
+        output += ReplaceInOrder(line);
+    CountReplaced();
+}
+
+/// Appends the line with all its placeholders replaced in one go. False, and nothing appended, when the order matters.
+bool PlaceholderSubstitution::ReplaceAtOnce(const Line& line, std::string& output) {
+    const std::size_t outputStart = output.size();
+    const TokenNumber end = tokens_.UpperBound() + 1;
+    if (ReplaceGroups(line, line.text, 0, end, output) != end) {
+        output.resize(outputStart);
+        replaced_.clear();
+        return false;
+    }
+    if (!tokens_.EmptyTokens().empty()) {
+        const bool unfinished = HoldsPlaceholder(std::string_view(output).substr(outputStart));
+        CountEmptyTokensUpTo(unfinished ? tokens_.UpperBound() : LastReplaced());
+    }
+    return true;
+}
+
+/// The line as it comes out of going through the tokens in order. Between two tokens whose place in the order matters,
+/// the others are replaced in one go.
+std::string PlaceholderSubstitution::ReplaceInOrder(const Line& line) {
+    std::string text(line.text);
+    TokenNumber done = 0;
+    while (HoldsPlaceholder(text)) {
+        TokenNumber next = NextIrregular(done);
+        const auto replacedBefore = static_cast<std::ptrdiff_t>(replaced_.size());
+        std::string changed;
+        for (TokenNumber before = 0; before != next;) {
+            before = next;
+            changed.clear();
+            replaced_.erase(replaced_.begin() + replacedBefore, replaced_.end());
+            next = ReplaceGroups(line, text, done, before, changed);
+        }
+        text.swap(changed);
+        done = LastReplaced();
+        if (!HoldsPlaceholder(text))
+            break;
+        done = std::min(next, tokens_.UpperBound());
+        if (next > tokens_.UpperBound())
+            break;
+        text = ReplaceToken(line, text, next);
+    }
+    CountEmptyTokensUpTo(done);
+    return text;
+}
+
+/// Appends the text with each group replaced that is a token between `after` and `before` and whose place in the order
+/// does not matter. Returns the first token between them whose place does matter, or else `before`.
+TokenNumber PlaceholderSubstitution::ReplaceGroups(const Line& line, std::string_view text,
+                                                   TokenNumber after, TokenNumber before,
+                                                   std::string& output) {
+    std::size_t copied = 0;
+    bool behindOpenBracket = false;
+    std::size_t open = text.find('[');
+    while (open != std::string_view::npos) {
+        const std::size_t close = FindBracket(text, open + 1);
+        if (close == text.size())
+            break;
+        if (text[close] == '[') {
+            behindOpenBracket = true;
+            open = close;
+            continue;
+        }
+        const TokenNumber number = tokens_.FindGroup(text.substr(open, close + 1 - open), after);
+        if (number != 0 && number < before) {
+            // Behind an open bracket the value may become part of another placeholder.
+            if (behindOpenBracket || tokens_.DependsOnOrder(number)) {
+                before = number;
+            } else {
+                output += text.substr(copied, open - copied);
+                AppendValue(line, number, output);
+                replaced_.push_back(number);
+                copied = close + 1;
+            }
+        }
+        behindOpenBracket = false;
+        open = text.find('[', close + 1);
+    }
+    output += text.substr(copied);
+    return before;
+}
+
+std::string PlaceholderSubstitution::ReplaceToken(const Line& line, std::string_view text,
+                                                  TokenNumber number) {
+    const std::string_view token = tokens_.Token(number);
+    std::string output;
+    std::size_t copied = 0;
+    std::size_t found = text.find(token);
+    if (found != std::string_view::npos)
+        replaced_.push_back(number);
+    while (found != std::string_view::npos) {
+        output += text.substr(copied, found - copied);
+        AppendValue(line, number, output);
+        copied = found + token.size();
+        found = text.find(token, copied);
+    }
+    output += text.substr(copied);
+    return output;
+}
+
+void PlaceholderSubstitution::AppendValue(const Line& line, TokenNumber number,
+                                          std::string& output) {
+    const std::string_view value = tokens_.Value(number);
+    if (tokens_.HasQuotes(number) && line.script.IsScript(line.end)) {
+        output += EscapeForScript(value);
+    } else {
+        output += value;
+    }
+}
+
+TokenNumber PlaceholderSubstitution::NextIrregular(TokenNumber after) const {
+    const auto& irregular = tokens_.IrregularTokens();
+    const auto next = std::upper_bound(irregular.begin(), irregular.end(), after);
+    return next == irregular.end() ? tokens_.UpperBound() + 1 : *next;
+}
+
+TokenNumber PlaceholderSubstitution::LastReplaced() const {
+    const auto last = std::max_element(replaced_.begin(), replaced_.end());
+    return last == replaced_.end() ? 0 : *last;
+}
+
+void PlaceholderSubstitution::CountReplaced() {
+    ++lineNumber_;
+    for (const TokenNumber number : replaced_) {
+        const auto index = static_cast<std::size_t>(number);
+        if (std::exchange(countedOn_[index], lineNumber_) != lineNumber_)
+            ++useCounts_[index];
+    }
+}
+
+/// Every line contains the empty token, so that all of them up to the last token looked at count as replaced.
+void PlaceholderSubstitution::CountEmptyTokensUpTo(TokenNumber last) {
+    const auto& empty = tokens_.EmptyTokens();
+    const auto lookedAt = std::upper_bound(empty.begin(), empty.end(), last) - empty.begin();
+    ++linesByEmptyTokens_[static_cast<std::size_t>(lookedAt)];
+}
+
+void PlaceholderSubstitution::SumUpEmptyTokens() {
+    std::int32_t lines = 0;
+    for (std::size_t i = tokens_.EmptyTokens().size(); i > 0; --i) {
+        lines += std::exchange(linesByEmptyTokens_[i], 0);
+        useCounts_[static_cast<std::size_t>(tokens_.EmptyTokens()[i - 1])] += lines;
+    }
+}
+
+}  // namespace cvlang

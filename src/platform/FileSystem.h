@@ -1,0 +1,103 @@
+// Files and folders, as far as Windows and Linux differ about them: attributes, letter case, links.
+//
+// What reads (ReadFile, EntryExists, ListFolder) finds an entry whose name differs only in letter case. What writes takes
+// the path exactly; pass it through FindExisting first where an entry may exist under another spelling.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+namespace cvlang {
+
+enum class FileStatus {
+    Okay,
+    NotFound,   // the folder exists, the file does not
+    OtherError  // no such folder, no permission, not a file, ...
+};
+
+/// A file's bytes. Reading another file into the same object uses its memory again.
+class FileContent {
+  public:
+    std::string_view Bytes() const { return {buffer_.data(), size_}; }
+    /// Whether the file carries an attribute that ResetAttributes takes away.
+    bool HasAttributes() const { return hasAttributes_; }
+
+  private:
+    friend FileStatus ReadFile(const std::filesystem::path& path, FileContent& content);
+    std::string buffer_;  // never shrinks: growing it again would clear it first
+    std::size_t size_ = 0;
+    bool hasAttributes_ = false;
+};
+
+/// Reads a whole file. On failure the content is empty.
+FileStatus ReadFile(const std::filesystem::path& path, FileContent& content);
+
+/// Makes the bytes the file's whole content. False on failure; what the disk still took then stays.
+bool WriteFile(const std::filesystem::path& path, std::string_view bytes);
+
+/// Writes at the end of a file, creating it when it is missing.
+std::error_code AppendToFile(const std::filesystem::path& path, std::string_view bytes);
+
+/// Whether a file or a folder of that name exists.
+bool EntryExists(const std::filesystem::path& path);
+
+/// Deletes a file. False when it is still there afterwards.
+bool RemoveFile(const std::filesystem::path& path);
+
+/// Gives a file another name in the same folder. False when that name is taken, or when there is no such file.
+bool RenameFile(const std::filesystem::path& from, const std::filesystem::path& to);
+
+/// Creates one folder. False when it exists already or cannot be created.
+bool CreateFolder(const std::filesystem::path& path);
+
+/// Takes away what keeps a file from being changed: read-only and archive on Windows; on Linux the owner gets the
+/// permission to write.
+void ResetAttributes(const std::filesystem::path& path);
+
+enum class CopiedAttributes {
+    Kept,    // those of the original
+    Archive  // archive alone, which clears read-only
+};
+
+/// Copies one file. `overwrites` tells that a file of the target's name may exist: it is replaced, read-only or not,
+/// and a file copied onto itself stays as it is. A copy that cannot be completed is removed. False on failure.
+bool CopyOneFile(const std::filesystem::path& from, const std::filesystem::path& to,
+                 CopiedAttributes attributes, bool overwrites);
+
+/// What lies directly in a folder: names without path, in the order of a directory window.
+struct FolderListing {
+    std::vector<std::filesystem::path> files;  // links to files among them
+    std::vector<std::filesystem::path> folders;
+    std::vector<std::filesystem::path> linkedFolders;
+};
+
+/// Empty lists when the folder cannot be read.
+FolderListing ListFolder(const std::filesystem::path& folder);
+
+/// The spellings that names have in a folder that files are to be copied to.
+class TargetNames {
+  public:
+    /// A folder that was just created needs no look at the disk.
+    TargetNames(const std::filesystem::path& folder, bool folderIsNew);
+    ~TargetNames();
+    TargetNames(const TargetNames&) = delete;
+    TargetNames& operator=(const TargetNames&) = delete;
+
+    struct Target {
+        std::filesystem::path path;
+        bool exists;
+    };
+    /// Where an entry of that name is to be written.
+    Target Find(const std::filesystem::path& name) const;
+
+  private:
+    struct Names;
+    std::filesystem::path folder_;
+    std::unique_ptr<Names> names_;
+};
+
+}  // namespace cvlang

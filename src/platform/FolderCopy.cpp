@@ -1,0 +1,77 @@
+#include "platform/FolderCopy.h"
+
+#include <algorithm>
+
+namespace cvlang {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool IsSameFolder(const fs::path& a, const fs::path& b) {
+    std::error_code ignored;
+    return fs::equivalent(a, b, ignored);
+}
+
+/// Whether the folder or one of those above it is `ancestor`.
+bool LiesIn(const fs::path& folder, const fs::path& ancestor) {
+    std::error_code failed;
+    const fs::path inner = fs::canonical(folder, failed);
+    const fs::path outer = fs::canonical(ancestor, failed);
+    return !failed && std::mismatch(outer.begin(), outer.end(), inner.begin(), inner.end()).first ==
+                          outer.end();
+}
+
+bool IsLinkedFolder(const fs::path& path) {
+    std::error_code ignored;
+    return fs::is_symlink(fs::symlink_status(path, ignored)) && fs::is_directory(path, ignored);
+}
+
+void CopyFiles(const std::vector<fs::path>& names, const fs::path& from, const TargetNames& targets,
+               CopiedAttributes attributes) {
+    for (const fs::path& name : names) {
+        const TargetNames::Target target = targets.Find(name);
+        CopyOneFile(from / name, target.path, attributes, target.exists);
+    }
+}
+
+void CopyFolders(const FolderListing& listing, const fs::path& from, const TargetNames& targets);
+
+void CopyFolder(const fs::path& from, const TargetNames::Target& to) {
+    if (to.exists && (IsLinkedFolder(to.path) || IsSameFolder(from, to.path)))
+        return;
+    // Listed before the copy exists: a folder copied into itself must not find its own copy.
+    const FolderListing listing = ListFolder(from);
+    const bool isNew = CreateFolder(to.path);
+    const TargetNames targets(to.path, isNew);
+    CopyFiles(listing.files, from, targets, CopiedAttributes::Kept);
+    CopyFolders(listing, from, targets);
+}
+
+void CopyFolders(const FolderListing& listing, const fs::path& from, const TargetNames& targets) {
+    for (const fs::path& name : listing.folders)
+        CopyFolder(from / name, targets.Find(name));
+    for (const fs::path& name : listing.linkedFolders) {
+        const TargetNames::Target target = targets.Find(name);
+        if (!LiesIn(from, from / name) && !LiesIn(target.path.parent_path(), from / name))
+            CopyFolder(from / name, target);
+    }
+}
+
+}  // namespace
+
+void CopyFilesOf(const fs::path& from, const fs::path& to, CopiedAttributes attributes) {
+    const FolderListing listing = ListFolder(from);
+    if (!IsSameFolder(from, to)) {
+        CopyFiles(listing.files, from, TargetNames(to, false), attributes);
+    } else if (attributes == CopiedAttributes::Archive) {
+        for (const fs::path& name : listing.files)
+            ResetAttributes(from / name);
+    }
+}
+
+void CopyFoldersOf(const fs::path& from, const fs::path& to) {
+    if (!IsSameFolder(from, to))
+        CopyFolders(ListFolder(from), from, TargetNames(to, false));
+}
+
+}  // namespace cvlang

@@ -1,0 +1,12 @@
+// Letter case without regard to the user's locale.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace cvlang {
+
+/// The text in capitals, letter by letter, so that its length stays the same (é becomes É, ß stays).
+std::u16string ToUpper(std::u16string_view text);
+
+}  // namespace cvlang

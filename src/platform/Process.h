@@ -1,0 +1,16 @@
+// The process's own surroundings: how it was called and where it speaks when it has no window.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace cvlang {
+
+/// The command line after the program's own name. On Windows as the process received it; on Linux rebuilt from the
+/// arguments: joined by single blanks, an argument that is empty or holds a blank set in double quotes.
+std::u16string CommandLineText(int argc, const char* const* argv);
+
+/// Writes one line to standard error.
+void WriteErrorLine(std::u16string_view text);
+
+}  // namespace cvlang

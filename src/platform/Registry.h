@@ -1,0 +1,27 @@
+// The settings that the mail server keeps below HKEY_LOCAL_MACHINE; this program only reads them.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace cvlang {
+
+/// Where settings come from. Every call reads anew; nothing is cached.
+class Registry {
+  public:
+    virtual ~Registry() = default;
+
+    /// The text stored under the key and name; empty when the key or the value is missing.
+    virtual std::u16string ReadString(std::u16string_view key, std::u16string_view name) const = 0;
+
+    /// The number stored under the key and name; 0 when it is missing or not a DWORD.
+    virtual std::int32_t ReadDword(std::u16string_view key, std::u16string_view name) const = 0;
+};
+
+/// The system's registry. On Linux a registry export file stands for it: the one that the environment variable
+/// CORVANE_REGISTRY names, otherwise /etc/corvane/registry.reg.
+std::unique_ptr<Registry> SystemRegistry();
+
+}  // namespace cvlang

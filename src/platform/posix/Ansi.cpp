@@ -1,0 +1,51 @@
+// Windows-1252: Latin-1 but for the 32 codes from 0x80.
+#include "platform/Ansi.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace cvlang {
+namespace {
+
+constexpr std::size_t kFirstSpecial = 0x80;
+
+// Unassigned codes stand for themselves, as on Windows.
+constexpr std::array<char16_t, 32> kSpecial = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+bool IsSpecial(std::size_t code) {
+    return code >= kFirstSpecial && code < kFirstSpecial + kSpecial.size();
+}
+
+char ToByte(char16_t c) {
+    if (c < 0x100 && !IsSpecial(c))
+        return static_cast<char>(c);
+    const auto found = std::find(kSpecial.begin(), kSpecial.end(), c);
+    if (found == kSpecial.end())
+        return '?';
+    return static_cast<char>(kFirstSpecial +
+                             static_cast<std::size_t>(std::distance(kSpecial.begin(), found)));
+}
+
+}  // namespace
+
+std::u16string AnsiToUtf16(std::string_view bytes) {
+    std::u16string text;
+    text.reserve(bytes.size());
+    for (const char byte : bytes) {
+        const auto code = static_cast<unsigned char>(byte);
+        text += IsSpecial(code) ? kSpecial[code - kFirstSpecial] : static_cast<char16_t>(code);
+    }
+    return text;
+}
+
+std::string Utf16ToAnsi(std::u16string_view text) {
+    std::string bytes(text.size(), '\0');
+    std::transform(text.begin(), text.end(), bytes.begin(), ToByte);
+    return bytes;
+}
+
+}  // namespace cvlang

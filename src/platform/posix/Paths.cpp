@@ -1,0 +1,47 @@
+#include "platform/Paths.h"
+
+#include <sys/stat.h>
+
+#include "platform/Utf8.h"
+#include "platform/posix/DirectoryEntries.h"
+
+namespace cvlang {
+namespace {
+
+bool EntryExists(const std::filesystem::path& path) {
+    struct stat status {};
+    return lstat(path.c_str(), &status) == 0;
+}
+
+}  // namespace
+
+std::filesystem::path PathFromText(std::u16string_view text) { return Utf16ToUtf8(text); }
+
+std::u16string TextFromPath(const std::filesystem::path& path) {
+    return Utf8ToUtf16(path.native());
+}
+
+std::filesystem::path FindExisting(const std::filesystem::path& path) {
+    if (EntryExists(path))
+        return path;
+    std::filesystem::path found;
+    bool missing = false;
+    for (const std::filesystem::path& part : path) {
+        if (!missing && !EntryExists(found / part)) {
+            const DirectoryEntries entries(found.empty() ? std::filesystem::path(".") : found);
+            const auto spelling = entries.Find(part.native());
+            missing = !spelling;
+            found /= spelling.value_or(part.native());
+        } else {
+            found /= part;
+        }
+    }
+    return found;
+}
+
+std::filesystem::path ExecutableFolder() {
+    std::error_code ignored;
+    return std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path();
+}
+
+}  // namespace cvlang

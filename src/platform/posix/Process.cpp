@@ -1,0 +1,26 @@
+#include "platform/Process.h"
+
+#include <cstdio>
+
+#include "platform/Utf8.h"
+
+namespace cvlang {
+
+std::u16string CommandLineText(int argc, const char* const* argv) {
+    std::string line;
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view argument = argv[i];
+        const bool quoted = argument.empty() || argument.find(' ') != std::string_view::npos;
+        line += i == 1 ? "" : " ";
+        line += quoted ? "\"" : "";
+        line += argument;
+        line += quoted ? "\"" : "";
+    }
+    return Utf8ToUtf16(line);
+}
+
+void WriteErrorLine(std::u16string_view text) {
+    std::fprintf(stderr, "%s\n", Utf16ToUtf8(text).c_str());
+}
+
+}  // namespace cvlang

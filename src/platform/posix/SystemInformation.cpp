@@ -1,0 +1,51 @@
+#include "platform/SystemInformation.h"
+
+#include <sys/random.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdio>
+#include <cstring>
+#include <ctime>
+
+#include "platform/Ansi.h"
+
+namespace cvlang {
+
+LocalTime SystemClock() {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday,
+            local.tm_hour,        local.tm_min,     local.tm_sec};
+}
+
+std::u16string FormatDateAndTime(const LocalTime& time) {
+    std::array<char, 80> text{};
+    std::snprintf(text.data(), text.size(), "%04d-%02d-%02d %02d:%02d:%02d", time.year, time.month,
+                  time.day, time.hour, time.minute, time.second);
+    return AnsiToUtf16(text.data());
+}
+
+std::u16string ComputerName() {
+    std::array<char, 256> name{};
+    if (gethostname(name.data(), name.size() - 1) != 0)
+        return {};
+    return AnsiToUtf16(name.data());
+}
+
+std::optional<Guid> NewGuid() {
+    std::array<std::uint8_t, 16> random{};
+    if (getrandom(random.data(), random.size(), 0) != static_cast<ssize_t>(random.size()))
+        return std::nullopt;
+    random[7] = static_cast<std::uint8_t>((random[7] & 0x0F) | 0x40);  // version 4: random
+    random[8] = static_cast<std::uint8_t>((random[8] & 0x3F) | 0x80);
+    Guid guid{};
+    std::memcpy(&guid.first, random.data(), sizeof guid.first);
+    std::memcpy(&guid.second, random.data() + 4, sizeof guid.second);
+    std::memcpy(&guid.third, random.data() + 6, sizeof guid.third);
+    std::memcpy(guid.last.data(), random.data() + 8, guid.last.size());
+    return guid;
+}
+
+}  // namespace cvlang

@@ -1,0 +1,187 @@
+#include "platform/FileSystem.h"
+
+#include <windows.h>
+
+#include <algorithm>
+
+#include "platform/windows/LongPath.h"
+
+namespace cvlang {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+constexpr DWORD kLargestTransfer = 1U << 30;
+
+class FileHandle {
+  public:
+    FileHandle(const fs::path& path, DWORD access, DWORD disposition)
+        : handle_(CreateFileW(LongPath(path).c_str(), access, kShareAll, nullptr, disposition,
+                              FILE_ATTRIBUTE_NORMAL, nullptr)) {}
+    FileHandle(const FileHandle&) = delete;
+    FileHandle& operator=(const FileHandle&) = delete;
+    ~FileHandle() {
+        if (IsOpen())
+            CloseHandle(handle_);
+    }
+
+    bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
+    HANDLE Get() const { return handle_; }
+
+  private:
+    HANDLE handle_;
+};
+
+std::error_code LastError() {
+    return {static_cast<int>(GetLastError()), std::system_category()};
+}
+
+bool WriteAll(const FileHandle& file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const auto size = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), kLargestTransfer));
+        DWORD written = 0;
+        if (!::WriteFile(file.Get(), bytes.data(), size, &written, nullptr) || written == 0)
+            return false;
+        bytes.remove_prefix(written);
+    }
+    return true;
+}
+
+bool HasAttributes(DWORD attributes) {
+    return attributes != INVALID_FILE_ATTRIBUTES &&
+           (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_ARCHIVE)) != 0;
+}
+
+std::vector<fs::path>& ListFor(const WIN32_FIND_DATAW& entry, FolderListing& listing) {
+    if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
+        return listing.files;
+    const bool linked = (entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+    return linked ? listing.linkedFolders : listing.folders;
+}
+
+bool PrecedesInDirectoryWindow(const fs::path& a, const fs::path& b) {
+    const int order = CompareStringOrdinal(a.c_str(), -1, b.c_str(), -1, TRUE);
+    return order == CSTR_LESS_THAN || (order == CSTR_EQUAL && a.native() < b.native());
+}
+
+}  // namespace
+
+FileStatus ReadFile(const fs::path& path, FileContent& content) {
+    content.size_ = 0;
+    const FileHandle file(path, GENERIC_READ, OPEN_EXISTING);
+    if (!file.IsOpen()) {
+        return GetLastError() == ERROR_FILE_NOT_FOUND ? FileStatus::NotFound
+                                                      : FileStatus::OtherError;
+    }
+    BY_HANDLE_FILE_INFORMATION information{};
+    if (!GetFileInformationByHandle(file.Get(), &information))
+        return FileStatus::OtherError;
+    content.hasAttributes_ = HasAttributes(information.dwFileAttributes);
+    std::size_t capacity = (static_cast<std::size_t>(information.nFileSizeHigh) << 32) +
+                           information.nFileSizeLow + 1;
+    for (;;) {
+        if (content.buffer_.size() < capacity)
+            content.buffer_.resize(capacity);
+        const std::size_t room = content.buffer_.size() - content.size_;
+        DWORD count = 0;
+        if (!::ReadFile(file.Get(), content.buffer_.data() + content.size_,
+                        static_cast<DWORD>(std::min<std::size_t>(room, kLargestTransfer)), &count,
+                        nullptr)) {
+            content.size_ = 0;
+            return FileStatus::OtherError;
+        }
+        content.size_ += count;
+        if (count == 0)
+            return FileStatus::Okay;
+        if (count == room)
+            capacity = content.buffer_.size() * 2;
+    }
+}
+
+bool WriteFile(const fs::path& path, std::string_view bytes) {
+    const FileHandle file(path, GENERIC_WRITE, CREATE_ALWAYS);
+    return file.IsOpen() && WriteAll(file, bytes);
+}
+
+std::error_code AppendToFile(const fs::path& path, std::string_view bytes) {
+    const FileHandle file(path, FILE_APPEND_DATA, OPEN_ALWAYS);
+    if (!file.IsOpen() || !WriteAll(file, bytes))
+        return LastError();
+    return {};
+}
+
+bool EntryExists(const fs::path& path) {
+    return GetFileAttributesW(LongPath(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+bool RemoveFile(const fs::path& path) {
+    return DeleteFileW(LongPath(path).c_str()) || !EntryExists(path);
+}
+
+bool RenameFile(const fs::path& from, const fs::path& to) {
+    const DWORD attributes = GetFileAttributesW(LongPath(from).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0 &&
+           MoveFileW(LongPath(from).c_str(), LongPath(to).c_str());
+}
+
+bool CreateFolder(const fs::path& path) {
+    return CreateDirectoryW(LongPath(path).c_str(), nullptr) != 0;
+}
+
+void ResetAttributes(const fs::path& path) {
+    const std::wstring file = LongPath(path);
+    if (HasAttributes(GetFileAttributesW(file.c_str())))
+        SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+bool CopyOneFile(const fs::path& from, const fs::path& to, CopiedAttributes attributes,
+                 bool overwrites) {
+    const std::wstring original = LongPath(from);
+    const std::wstring copy = LongPath(to);
+    if (overwrites) {
+        const DWORD existing = GetFileAttributesW(copy.c_str());
+        if (existing != INVALID_FILE_ATTRIBUTES && (existing & FILE_ATTRIBUTE_READONLY) != 0)
+            SetFileAttributesW(copy.c_str(), FILE_ATTRIBUTE_NORMAL);
+    }
+    if (!CopyFileW(original.c_str(), copy.c_str(), FALSE))
+        return false;
+    if (attributes == CopiedAttributes::Archive)
+        SetFileAttributesW(copy.c_str(), FILE_ATTRIBUTE_ARCHIVE);
+    return true;
+}
+
+FolderListing ListFolder(const fs::path& folder) {
+    FolderListing listing;
+    WIN32_FIND_DATAW entry{};
+    const std::wstring pattern = LongPath(folder / L"*");
+    const HANDLE search = FindFirstFileExW(pattern.c_str(), FindExInfoBasic, &entry,
+                                           FindExSearchNameMatch, nullptr, 0);
+    if (search == INVALID_HANDLE_VALUE)
+        return listing;
+    do {
+        const std::wstring_view name = entry.cFileName;
+        if (name != L"." && name != L"..")
+            ListFor(entry, listing).emplace_back(name);
+    } while (FindNextFileW(search, &entry));
+    FindClose(search);
+    for (auto* list : {&listing.files, &listing.folders, &listing.linkedFolders})
+        std::sort(list->begin(), list->end(), PrecedesInDirectoryWindow);
+    return listing;
+}
+
+struct TargetNames::Names {};
+
+TargetNames::TargetNames(const fs::path& folder, bool folderIsNew) : folder_(folder) {
+    if (!folderIsNew)
+        names_ = std::make_unique<Names>();
+}
+
+TargetNames::~TargetNames() = default;
+
+TargetNames::Target TargetNames::Find(const fs::path& name) const {
+    const fs::path path = folder_ / name;
+    return {path, names_ != nullptr && EntryExists(path)};
+}
+
+}  // namespace cvlang

@@ -1,0 +1,37 @@
+#include "platform/Paths.h"
+
+#include <windows.h>
+
+#include "platform/windows/LongPath.h"
+
+namespace cvlang {
+
+std::filesystem::path PathFromText(std::u16string_view text) {
+    return std::wstring(text.begin(), text.end());
+}
+
+std::u16string TextFromPath(const std::filesystem::path& path) { return path.u16string(); }
+
+std::filesystem::path FindExisting(const std::filesystem::path& path) { return path; }
+
+std::filesystem::path ExecutableFolder() {
+    std::wstring file(32768, L'\0');
+    const DWORD length =
+        GetModuleFileNameW(nullptr, file.data(), static_cast<DWORD>(file.size()));
+    file.resize(length);
+    return std::filesystem::path(file).parent_path();
+}
+
+std::wstring LongPath(const std::filesystem::path& path) {
+    constexpr std::size_t kShort = 240;  // leaves room for the 8.3 name that folders must allow for
+    const std::wstring& text = path.native();
+    if (text.size() < kShort || text.rfind(LR"(\\?\)", 0) == 0)
+        return text;
+    std::error_code ignored;
+    const std::wstring full = std::filesystem::absolute(path, ignored).lexically_normal().native();
+    if (full.rfind(LR"(\\)", 0) == 0)
+        return LR"(\\?\UNC)" + full.substr(1);
+    return LR"(\\?\)" + full;
+}
+
+}  // namespace cvlang

@@ -1,0 +1,35 @@
+#include "platform/Process.h"
+
+#include <windows.h>
+
+#include "platform/Ansi.h"
+
+namespace cvlang {
+
+std::u16string CommandLineText(int, const char* const*) {
+    const std::wstring_view line = GetCommandLineW();
+    const bool quoted = !line.empty() && line.front() == L'"';
+    std::size_t end = line.find(quoted ? L'"' : L' ', 1);
+    if (quoted && end != std::wstring_view::npos)
+        ++end;
+    // The blanks that part the program's name from its arguments belong to neither.
+    const std::size_t start = line.find_first_not_of(L" \t", end);
+    if (end == std::wstring_view::npos || start == std::wstring_view::npos)
+        return {};
+    const std::wstring_view arguments = line.substr(start);
+    return {arguments.begin(), arguments.end()};
+}
+
+void WriteErrorLine(std::u16string_view text) {
+    const HANDLE error = GetStdHandle(STD_ERROR_HANDLE);
+    std::u16string line(text);
+    line += u"\r\n";
+    DWORD written = 0;
+    // A console takes UTF-16; a file or a pipe refuses it and gets ANSI bytes.
+    if (!WriteConsoleW(error, line.data(), static_cast<DWORD>(line.size()), &written, nullptr)) {
+        const std::string bytes = Utf16ToAnsi(line);
+        WriteFile(error, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+    }
+}
+
+}  // namespace cvlang

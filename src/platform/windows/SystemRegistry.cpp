@@ -1,0 +1,66 @@
+#include <windows.h>
+
+#include "platform/Ansi.h"
+#include "platform/Registry.h"
+
+namespace cvlang {
+namespace {
+
+class RegistryKey {
+  public:
+    explicit RegistryKey(std::u16string_view key) {
+        if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, Utf16ToAnsi(key).c_str(), 0, KEY_READ, &handle_) !=
+            ERROR_SUCCESS)
+            handle_ = nullptr;
+    }
+    RegistryKey(const RegistryKey&) = delete;
+    RegistryKey& operator=(const RegistryKey&) = delete;
+    ~RegistryKey() {
+        if (handle_ != nullptr)
+            RegCloseKey(handle_);
+    }
+
+    /// False when the key or the value is missing. Data may be null, to learn the type and the size alone.
+    bool Query(const std::string& name, DWORD& type, void* data, DWORD& size) const {
+        return handle_ != nullptr &&
+               RegQueryValueExA(handle_, name.c_str(), nullptr, &type, static_cast<BYTE*>(data),
+                                &size) == ERROR_SUCCESS;
+    }
+
+  private:
+    HKEY handle_ = nullptr;
+};
+
+class WindowsRegistry : public Registry {
+  public:
+    std::u16string ReadString(std::u16string_view key, std::u16string_view name) const override {
+        const RegistryKey opened(key);
+        const std::string value = Utf16ToAnsi(name);
+        DWORD type = 0;
+        DWORD size = 0;
+        if (!opened.Query(value, type, nullptr, size) || size == 0)
+            return {};
+        std::string bytes(size, '\0');
+        if (!opened.Query(value, type, bytes.data(), size))
+            return {};
+        return AnsiToUtf16({bytes.data(), bytes.size() - 1});  // without the NUL at its end
+    }
+
+    std::int32_t ReadDword(std::u16string_view key, std::u16string_view name) const override {
+        const RegistryKey opened(key);
+        const std::string value = Utf16ToAnsi(name);
+        DWORD type = 0;
+        DWORD size = 0;
+        if (!opened.Query(value, type, nullptr, size) || type != REG_DWORD)
+            return 0;
+        std::int32_t number = 0;
+        size = sizeof number;
+        return opened.Query(value, type, &number, size) ? number : 0;
+    }
+};
+
+}  // namespace
+
+std::unique_ptr<Registry> SystemRegistry() { return std::make_unique<WindowsRegistry>(); }
+
+}  // namespace cvlang

@@ -1,0 +1,35 @@
+// Text files line by line.
+#pragma once
+
+#include <algorithm>
+#include <string_view>
+
+namespace cvlang {
+
+/// Takes the lines of a text one after the other. CR LF, a bare LF and a bare CR end a line; a last line without an end
+/// counts; a text that ends with a line's end has no further, empty line.
+template <typename Character>
+class Lines {
+  public:
+    using View = std::basic_string_view<Character>;
+
+    explicit Lines(View text) : rest_(text) {}
+
+    /// The next line without its end, in `line`; false at the end of the text.
+    bool Next(View& line) {
+        if (rest_.empty())
+            return false;
+        const auto isEnd = [](Character c) { return c == '\r' || c == '\n'; };
+        const auto end = static_cast<std::size_t>(
+            std::find_if(rest_.begin(), rest_.end(), isEnd) - rest_.begin());
+        line = rest_.substr(0, end);
+        const bool pair = rest_.size() > end + 1 && rest_[end] == '\r' && rest_[end + 1] == '\n';
+        rest_.remove_prefix(std::min(rest_.size(), end + (pair ? 2 : 1)));
+        return true;
+    }
+
+  private:
+    View rest_;
+};
+
+}  // namespace cvlang
