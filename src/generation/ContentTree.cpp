@@ -103,10 +103,10 @@ void TranslateFolder(const fs::path& sFolderPath, PageTranslator& pages, bool bR
         for (const fs::path& name : listing.folders)
             TranslateFolder(sFolderPath / name, pages, bRecurse);
     }
+    const Folder folder(sFolderPath);
     for (const fs::path& name : listing.files) {
-        const fs::path page = sFolderPath / name;
-        if (IsPage(name) && !pages.HasCreated(page))
-            pages.TranslateFile(page, true);
+        if (IsPage(name) && !pages.HasCreated(folder, name))
+            pages.TranslateFile(folder, name, true);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "generation/PageEncoding.h"
 
+#include <algorithm>
+
 namespace cvlang {
 
 std::size_t EncodeUTF8(std::u16string_view sText, std::vector<std::uint8_t>& bytOutput) {
@@ -31,14 +33,17 @@ std::string BytesToString(const std::vector<std::uint8_t>& bytInput) {
 }
 
 std::string EscapeForScript(std::string_view sText) {
+    const auto isQuote = [](char c) { return c == '\'' || c == '"'; };
     std::string escaped;
     escaped.reserve(sText.size() + 8);
-    for (const char c : sText) {
-        if (c == '\'' || c == '"')
-            escaped += '\\';
-        escaped += c;
+    for (auto from = sText.begin();;) {
+        const auto quote = std::find_if(from, sText.end(), isQuote);
+        escaped.append(from, quote);
+        if (quote == sText.end())
+            return escaped;
+        escaped += {'\\', *quote};
+        from = quote + 1;
     }
-    return escaped;
 }
 
 }  // namespace cvlang

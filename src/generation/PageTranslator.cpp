@@ -51,44 +51,62 @@ PageTranslator::PageTranslator(Program& program, std::u16string_view sLanguage,
       substitution_(tokens_, UseCountsFor(program, arrTokens.size())) {}
 
 void PageTranslator::TranslateFile(const fs::path& sSourcePath, bool bScriptAware) {
-    if (ReadFile(sSourcePath, source_) != FileStatus::Okay) {
+    const fs::path existing = FindExisting(sSourcePath);
+    TranslateFile(Folder(existing.parent_path()), existing.filename(), bScriptAware);
+}
+
+void PageTranslator::TranslateFile(const Folder& folder, const fs::path& name, bool bScriptAware) {
+    if (ReadFile(folder, name, source_) != FileStatus::Okay) {
         // A log that cannot be written must not keep the other pages from being translated.
         [[maybe_unused]] const auto ignored = program_.logs.LogTranslationEvent(
-            u"Error - could not find asp source: " + TextFromPath(sSourcePath));
+            u"Error - could not find asp source: " + TextFromPath(folder.Path() / name));
         return;
     }
     page_ = kUtf8ByteOrderMark;
-    if (!substitution_.Translate(source_.Bytes(), ScriptModeOf(sSourcePath, bScriptAware), page_))
+    if (!substitution_.Translate(source_.Bytes(), ScriptModeOf(name, bScriptAware), page_))
         return;
     if (source_.HasAttributes())
-        ResetAttributes(FindExisting(sSourcePath));
-    WritePage(sSourcePath, DestinationOf(sSourcePath));
+        ResetAttributes(folder.Path() / name);
+    const fs::path destination = DestinationOf(folder);
+    if (!destination.empty()) {
+        WriteElsewhere(FindExisting(destination / name));
+    } else {
+        RemoveFile(folder, name);
+        if (!WriteFile(folder, name, PageBytes()))
+            RemoveFile(folder, name);
+    }
 }
 
-void PageTranslator::WritePage(const fs::path& source, const fs::path& destination) {
+/// The page behind one byte-order mark: its own, if it has one.
+std::string_view PageTranslator::PageBytes() const {
     std::string_view bytes = page_;
     if (bytes.substr(kUtf8ByteOrderMark.size(), kUtf8ByteOrderMark.size()) == kUtf8ByteOrderMark)
         bytes.remove_prefix(kUtf8ByteOrderMark.size());
-    const bool isElsewhere = destination != source;
-    const bool isNew = isElsewhere && !EntryExists(destination);
+    return bytes;
+}
+
+void PageTranslator::WriteElsewhere(const fs::path& destination) {
+    const bool isNew = !EntryExists(destination);
     RemoveFile(destination);
-    if (!WriteFile(destination, bytes)) {
+    if (!WriteFile(destination, PageBytes())) {
         RemoveFile(destination);
     } else if (isNew) {
         created_.insert(destination.lexically_normal());
     }
 }
 
-fs::path PageTranslator::DestinationOf(const fs::path& source) const {
-    fs::path::string_type text = source.native();
+/// The folder that mirrors this one in the language's folder; empty when it lies there already.
+fs::path PageTranslator::DestinationOf(const Folder& source) const {
+    fs::path::string_type text = source.Path().native();
+    text += fs::path::preferred_separator;
     std::size_t found = text.find(referencePart_);
     if (found == fs::path::string_type::npos)
-        return source;
+        return {};
     while (found != fs::path::string_type::npos) {
         text.replace(found, referencePart_.size(), languagePart_);
         found = text.find(referencePart_, found + languagePart_.size());
     }
-    return FindExisting(text);
+    return text;
 }
 
 }  // namespace cvlang

@@ -27,13 +27,18 @@ class PageTranslator {
     /// script, unless the flag is false. A page that cannot be read leaves a line in the log, one that cannot be written
     /// is not produced.
     void TranslateFile(const std::filesystem::path& sSourcePath, bool bScriptAware);
+    /// The same for a file of a folder.
+    void TranslateFile(const Folder& folder, const std::filesystem::path& name, bool bScriptAware);
 
     /// Whether this object wrote that file in the place of none. It is translated already.
-    bool HasCreated(const std::filesystem::path& path) const { return created_.count(path) != 0; }
+    bool HasCreated(const Folder& folder, const std::filesystem::path& name) const {
+        return !created_.empty() && created_.count((folder.Path() / name).lexically_normal()) != 0;
+    }
 
   private:
-    std::filesystem::path DestinationOf(const std::filesystem::path& source) const;
-    void WritePage(const std::filesystem::path& source, const std::filesystem::path& destination);
+    std::filesystem::path DestinationOf(const Folder& source) const;
+    std::string_view PageBytes() const;
+    void WriteElsewhere(const std::filesystem::path& destination);
 
     Program& program_;
     std::filesystem::path::string_type referencePart_;  // "\SYS\"

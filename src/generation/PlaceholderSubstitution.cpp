@@ -29,7 +29,11 @@ std::size_t LineStart(std::string_view text, std::size_t from, std::size_t posit
     return end == std::string_view::npos ? from : from + end + 1;
 }
 
-std::size_t FindBracket(std::string_view text, std::size_t from) {
+/// Where the next bracket of either kind stands behind an open one; the text's end when there is none.
+std::size_t FindBracketBehind(std::string_view text, std::size_t open) {
+    std::size_t from = open + 1;
+    if (text.substr(open, kPlaceholderPrefix.size()) == kPlaceholderPrefix)
+        from = open + kPlaceholderPrefix.size();
     while (from < text.size() && text[from] != '[' && text[from] != ']')
         ++from;
     return from;
@@ -54,13 +58,12 @@ bool PlaceholderSubstitution::Translate(std::string_view page, ScriptMode mode,
         // A line that became empty at the start of the output is dropped like one that was empty from the first.
         if (output.size() == outputStart)
             position = SkipBlankLines(text, position);
-        const std::size_t placeholder = text.find(kPlaceholderPrefix, position);
-        if (placeholder == std::string_view::npos)
+        const std::size_t start = FindPlaceholderLine(text, position);
+        if (start == std::string_view::npos)
             break;
         if (tokens_.UpperBound() > kMostTokens)
             return false;
-        const std::size_t start = LineStart(text, position, placeholder);
-        const std::size_t end = std::min(text.find(kPageLineEnd, placeholder), text.size());
+        const std::size_t end = std::min(text.find('\r', start), text.size());
         output += text.substr(position, start - position);
         TranslateLine({text.substr(start, end - start), end, script}, output);
         position = end;
@@ -68,6 +71,23 @@ bool PlaceholderSubstitution::Translate(std::string_view page, ScriptMode mode,
     output += text.substr(position);
     SumUpEmptyTokens();
     return true;
+}
+
+/// Where the next line with a placeholder begins; npos when there is none. As long as all tokens are groups, what stands
+/// before the first bracket of a line does not matter and is left out.
+std::size_t PlaceholderSubstitution::FindPlaceholderLine(std::string_view text,
+                                                         std::size_t from) const {
+    std::size_t firstBracket = std::string_view::npos;
+    for (std::size_t open = text.find('[', from); open != std::string_view::npos;
+         open = text.find('[', open + 1)) {
+        if (firstBracket == std::string_view::npos ||
+            text.substr(firstBracket, open - firstBracket).find('\n') != std::string_view::npos)
+            firstBracket = open;
+        if (text.substr(open, kPlaceholderPrefix.size()) != kPlaceholderPrefix)
+            continue;
+        return tokens_.IrregularTokens().empty() ? firstBracket : LineStart(text, from, open);
+    }
+    return std::string_view::npos;
 }
 
 void PlaceholderSubstitution::TranslateLine(const Line& line, std::string& output) {
@@ -130,7 +150,7 @@ TokenNumber PlaceholderSubstitution::ReplaceGroups(const Line& line, std::string
     bool behindOpenBracket = false;
     std::size_t open = text.find('[');
     while (open != std::string_view::npos) {
-        const std::size_t close = FindBracket(text, open + 1);
+        const std::size_t close = FindBracketBehind(text, open);
         if (close == text.size())
             break;
         if (text[close] == '[') {

@@ -35,6 +35,7 @@ class PlaceholderSubstitution {
         ScriptTracker& script;
     };
 
+    std::size_t FindPlaceholderLine(std::string_view text, std::size_t from) const;
     void TranslateLine(const Line& line, std::string& output);
     bool ReplaceAtOnce(const Line& line, std::string& output);
     std::string ReplaceInOrder(const Line& line);

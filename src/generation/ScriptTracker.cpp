@@ -9,8 +9,6 @@ namespace {
 constexpr std::string_view kOpening = "<SCRIPT ";
 constexpr std::string_view kClosing = "</SCRIPT>";
 
-char Lower(char c) { return static_cast<char>(c | 0x20); }
-
 bool StartsWith(std::string_view text, std::string_view upperMarker) {
     return text.size() >= upperMarker.size() &&
            std::equal(upperMarker.begin(), upperMarker.end(), text.begin(), [](char marker, char c) {
@@ -18,30 +16,35 @@ bool StartsWith(std::string_view text, std::string_view upperMarker) {
            });
 }
 
-/// Whether "<s" or "</s" begins at one of the `size` characters from `text`, of which two more can be read. Written so
+constexpr std::size_t kLookAhead = 2;
+
+/// Whether "scr" stands at one of the `size` characters from `text`, behind which kLookAhead more can be read. Written so
 /// that the compiler looks at many characters at once.
 bool MayHoldMarker(const char* text, std::size_t size) {
+    constexpr unsigned char kLower = 0x20;
+    const auto* c = reinterpret_cast<const unsigned char*>(text);
     unsigned char found = 0;
     for (std::size_t i = 0; i < size; ++i) {
-        const bool opening = Lower(text[i + 1]) == 's';
-        const bool closing = (text[i + 1] == '/') & (Lower(text[i + 2]) == 's');
-        found = static_cast<unsigned char>(found | ((text[i] == '<') & (opening | closing)));
+        const unsigned char s = (c[i] | kLower) == 's';
+        const unsigned char sc = s & ((c[i + 1] | kLower) == 'c');
+        found |= static_cast<unsigned char>(sc & ((c[i + 2] | kLower) == 'r'));
     }
     return found != 0;
 }
 
 bool IsMarker(std::string_view text) {
-    return text[0] == '<' && (StartsWith(text, kOpening) || StartsWith(text, kClosing));
+    return StartsWith(text, kOpening) || StartsWith(text, kClosing);
 }
 
 /// The position of the first marker at or behind `from`; npos when there is none.
 std::size_t FindMarker(std::string_view text, std::size_t from) {
     constexpr std::size_t kBlock = 256;
     while (from < text.size()) {
-        const std::size_t readable = text.size() - from;
-        const std::size_t size = std::min(kBlock, readable);
-        if (readable < size + 2 || MayHoldMarker(text.data() + from, size)) {
-            for (std::size_t i = from; i < from + size; ++i) {
+        const std::size_t size = std::min(kBlock, text.size() - from);
+        // A marker that begins in this block has its "scr" in it or at most two characters behind.
+        const std::size_t looked = size + 2;
+        if (text.size() - from < looked + kLookAhead || MayHoldMarker(text.data() + from, looked)) {
+            for (std::size_t i = text.find('<', from); i < from + size; i = text.find('<', i + 1)) {
                 if (IsMarker(text.substr(i)))
                     return i;
             }

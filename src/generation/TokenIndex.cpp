@@ -1,9 +1,9 @@
 #include "generation/TokenIndex.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstring>
 #include <optional>
-#include <utility>
 
 #include "generation/PageEncoding.h"
 #include "platform/Ansi.h"
@@ -11,7 +11,7 @@
 namespace cvlang {
 namespace {
 
-/// Eight bytes at a time: tokens differ mostly in their last letters, which a product spreads over all bits.
+/// Eight bytes at a time. The last product spreads what differs, mostly a few letters, over the bits that are used.
 std::uint32_t Hash(std::string_view text) {
     constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15;
     std::uint64_t hash = text.size();
@@ -24,56 +24,64 @@ std::uint32_t Hash(std::string_view text) {
     std::uint64_t rest = 0;
     std::memcpy(&rest, text.data(), text.size());
     hash = (std::rotl(hash, 23) ^ rest) * kFactor;
+    hash = (hash ^ (hash >> 32)) * kFactor;
     return static_cast<std::uint32_t>(hash >> 32);
 }
 
 bool IsGroup(std::string_view token) {
-    return token.size() >= 2 && token.front() == '[' && token.find_first_of("[]", 1) == token.size() - 1 &&
-           token.back() == ']';
+    return token.size() >= 2 && token.front() == '[' && token.find('[', 1) == token.npos &&
+           token.find(']') == token.size() - 1;
 }
 
-std::string EncodeValue(std::u16string_view value) {
-    std::vector<std::uint8_t> bytes;
-    EncodeUTF8(value, bytes);
-    return BytesToString(bytes);
+bool IsQuote(char c) { return c == '\'' || c == '"'; }
+
+/// Room for all tokens and values at their longest.
+std::size_t MostBytes(const std::vector<std::u16string>& tokens,
+                      const std::vector<std::u16string>& values) {
+    std::size_t bytes = 0;
+    for (const std::u16string& token : tokens)
+        bytes += token.size();
+    for (const std::u16string& value : values)
+        bytes += value.size() * 3;
+    return bytes;
 }
 
 }  // namespace
 
 TokenIndex::TokenIndex(const std::vector<std::u16string>& arrTokens,
                        const std::vector<std::u16string>& arrValues)
-    : entries_(arrTokens.size()),
-      slots_(std::bit_ceil(2 * arrTokens.size() + 1)) {
-    // Lengths first, views when the text has stopped moving.
-    std::vector<std::pair<std::size_t, std::size_t>> lengths(arrTokens.size());
-    std::vector<bool> known(arrTokens.size());
-    for (std::size_t i = 1; i < arrTokens.size(); ++i) {
-        const std::optional<std::string> token = Utf16ToAnsiExactly(arrTokens[i]);
-        const std::string value = EncodeValue(arrValues[i]);
-        known[i] = token.has_value();
-        text_ += token.value_or("");
-        text_ += value;
-        lengths[i] = {token.value_or("").size(), value.size()};
+    : entries_(arrTokens.size()), slots_(std::bit_ceil(2 * arrTokens.size() + 1)) {
+    text_.reserve(MostBytes(arrTokens, arrValues));
+    // From the last to the first: a token is put before those of the same text.
+    for (TokenNumber number = UpperBound(); number > 0; --number) {
+        const auto i = static_cast<std::size_t>(number);
+        Add(number, arrTokens[i], arrValues[i]);
     }
-    const char* position = text_.data();
-    for (std::size_t i = 1; i < arrTokens.size(); ++i) {
-        const auto [tokenLength, valueLength] = lengths[i];
-        entries_[i].token = {position, tokenLength};
-        entries_[i].value = {position + tokenLength, valueLength};
-        position += tokenLength + valueLength;
-        if (known[i])
-            Classify(static_cast<TokenNumber>(i));
-    }
+    std::reverse(irregular_.begin(), irregular_.end());
+    std::reverse(empty_.begin(), empty_.end());
 }
 
-void TokenIndex::Classify(TokenNumber number) {
+void TokenIndex::Add(TokenNumber number, std::u16string_view token, std::u16string_view value) {
+    const std::optional<std::string> ansi = Utf16ToAnsiExactly(token);
+    if (!ansi)
+        return;
+    std::string encoded;
+    if (!value.empty()) {
+        EncodeUTF8(value, encoded_);
+        encoded = BytesToString(encoded_);
+    }
     Entry& entry = At(number);
-    entry.hasQuotes = entry.value.find_first_of("'\"") != std::string_view::npos;
-    if (entry.token.empty()) {
+    entry.start = text_.size();
+    entry.tokenLength = static_cast<std::uint32_t>(ansi->size());
+    entry.valueLength = static_cast<std::uint32_t>(encoded.size());
+    entry.hasQuotes = std::any_of(encoded.begin(), encoded.end(), IsQuote);
+    text_ += *ansi;
+    text_ += encoded;
+    if (ansi->empty()) {
         empty_.push_back(number);
-    } else if (IsGroup(entry.token)) {
-        entry.dependsOnOrder = entry.token.rfind(kPlaceholderPrefix, 0) != 0 ||
-                               entry.value.find('[') != std::string_view::npos;
+    } else if (IsGroup(*ansi)) {
+        entry.dependsOnOrder = ansi->rfind(kPlaceholderPrefix, 0) != 0 ||
+                               encoded.find('[') != std::string::npos;
         AddGroup(number);
     } else {
         irregular_.push_back(number);
@@ -84,19 +92,16 @@ std::size_t TokenIndex::FindSlot(std::string_view token, std::uint32_t hash) con
     const std::size_t mask = slots_.size() - 1;
     std::size_t slot = hash & mask;
     while (slots_[slot].first != 0 &&
-           (slots_[slot].hash != hash || At(slots_[slot].first).token != token))
+           (slots_[slot].hash != hash || Token(slots_[slot].first) != token))
         slot = (slot + 1) & mask;
     return slot;
 }
 
 void TokenIndex::AddGroup(TokenNumber number) {
-    const std::uint32_t hash = Hash(At(number).token);
-    Slot& slot = slots_[FindSlot(At(number).token, hash)];
-    if (slot.first == 0) {
-        slot = {hash, number, number};
-    } else {
-        At(std::exchange(slot.last, number)).nextAlike = number;
-    }
+    const std::uint32_t hash = Hash(Token(number));
+    Slot& slot = slots_[FindSlot(Token(number), hash)];
+    At(number).nextAlike = slot.first;
+    slot = {hash, number};
 }
 
 TokenNumber TokenIndex::FindGroup(std::string_view group, TokenNumber after) const {

@@ -22,8 +22,12 @@ class TokenIndex {
                const std::vector<std::u16string>& arrValues);
 
     TokenNumber UpperBound() const { return static_cast<TokenNumber>(entries_.size()) - 1; }
-    std::string_view Token(TokenNumber number) const { return At(number).token; }
-    std::string_view Value(TokenNumber number) const { return At(number).value; }
+    std::string_view Token(TokenNumber number) const {
+        return {text_.data() + At(number).start, At(number).tokenLength};
+    }
+    std::string_view Value(TokenNumber number) const {
+        return {text_.data() + At(number).start + At(number).tokenLength, At(number).valueLength};
+    }
     /// Whether the value looks different inside a script.
     bool HasQuotes(TokenNumber number) const { return At(number).hasQuotes; }
     /// Whether it matters in which order this token and others are replaced: its value may bring a placeholder of its
@@ -39,9 +43,11 @@ class TokenIndex {
     const std::vector<TokenNumber>& EmptyTokens() const { return empty_; }
 
   private:
+    // Entries and slots are kept small: looking a placeholder up costs what it takes to fetch them from memory.
     struct Entry {
-        std::string_view token;
-        std::string_view value;
+        std::size_t start = 0;  // of the token in text_; its value follows it
+        std::uint32_t tokenLength = 0;
+        std::uint32_t valueLength = 0;
         TokenNumber nextAlike = 0;  // the next token of the same text
         bool hasQuotes = false;
         bool dependsOnOrder = false;
@@ -49,16 +55,16 @@ class TokenIndex {
     struct Slot {
         std::uint32_t hash = 0;
         TokenNumber first = 0;
-        TokenNumber last = 0;
     };
 
     const Entry& At(TokenNumber number) const { return entries_[static_cast<std::size_t>(number)]; }
     Entry& At(TokenNumber number) { return entries_[static_cast<std::size_t>(number)]; }
     std::size_t FindSlot(std::string_view token, std::uint32_t hash) const;
-    void Classify(TokenNumber number);
+    void Add(TokenNumber number, std::u16string_view token, std::u16string_view value);
     void AddGroup(TokenNumber number);
 
-    std::string text_;  // all tokens and values, one after the other
+    std::vector<std::uint8_t> encoded_;  // the value at hand
+    std::string text_;                   // all tokens and values, one after the other
     std::vector<Entry> entries_;
     std::vector<Slot> slots_;  // a power of two, at least half of them free
     std::vector<TokenNumber> irregular_;

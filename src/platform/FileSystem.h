@@ -13,6 +13,25 @@
 
 namespace cvlang {
 
+/// A folder that many files are read from or written to. They are then reached by their names alone, which spares the
+/// system going through the whole path each time.
+class Folder {
+  public:
+    /// The folder need not exist: what is done in it then fails.
+    explicit Folder(const std::filesystem::path& path);
+    ~Folder();
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+
+    const std::filesystem::path& Path() const { return path_; }
+    /// For the implementation alone: an open directory on Linux, unused on Windows.
+    int Descriptor() const { return descriptor_; }
+
+  private:
+    std::filesystem::path path_;
+    int descriptor_ = -1;
+};
+
 enum class FileStatus {
     Okay,
     NotFound,   // the folder exists, the file does not
@@ -22,21 +41,28 @@ enum class FileStatus {
 /// A file's bytes. Reading another file into the same object uses its memory again.
 class FileContent {
   public:
-    std::string_view Bytes() const { return {buffer_.data(), size_}; }
+    std::string_view Bytes() const { return {buffer_.get(), size_}; }
     /// Whether the file carries an attribute that ResetAttributes takes away.
     bool HasAttributes() const { return hasAttributes_; }
 
   private:
-    friend FileStatus ReadFile(const std::filesystem::path& path, FileContent& content);
-    std::string buffer_;  // never shrinks: growing it again would clear it first
+    friend FileStatus ReadFile(const Folder& folder, const std::filesystem::path& name,
+                               FileContent& content);
+    /// Makes room for so many bytes in all; what was read so far stays.
+    void Reserve(std::size_t capacity);
+
+    std::unique_ptr<char[]> buffer_;
+    std::size_t capacity_ = 0;
     std::size_t size_ = 0;
     bool hasAttributes_ = false;
 };
 
 /// Reads a whole file. On failure the content is empty.
+FileStatus ReadFile(const Folder& folder, const std::filesystem::path& name, FileContent& content);
 FileStatus ReadFile(const std::filesystem::path& path, FileContent& content);
 
 /// Makes the bytes the file's whole content. False on failure; what the disk still took then stays.
+bool WriteFile(const Folder& folder, const std::filesystem::path& name, std::string_view bytes);
 bool WriteFile(const std::filesystem::path& path, std::string_view bytes);
 
 /// Writes at the end of a file, creating it when it is missing.
@@ -46,6 +72,7 @@ std::error_code AppendToFile(const std::filesystem::path& path, std::string_view
 bool EntryExists(const std::filesystem::path& path);
 
 /// Deletes a file. False when it is still there afterwards.
+bool RemoveFile(const Folder& folder, const std::filesystem::path& name);
 bool RemoveFile(const std::filesystem::path& path);
 
 /// Gives a file another name in the same folder. False when that name is taken, or when there is no such file.
@@ -63,10 +90,16 @@ enum class CopiedAttributes {
     Archive  // archive alone, which clears read-only
 };
 
-/// Copies one file. `overwrites` tells that a file of the target's name may exist: it is replaced, read-only or not,
-/// and a file copied onto itself stays as it is. A copy that cannot be completed is removed. False on failure.
-bool CopyOneFile(const std::filesystem::path& from, const std::filesystem::path& to,
-                 CopiedAttributes attributes, bool overwrites);
+/// Where an entry of a folder is to be written.
+struct TargetName {
+    std::filesystem::path name;
+    bool exists;
+};
+
+/// Copies one file from a folder to another. An existing target is replaced, read-only or not, and a file copied onto
+/// itself stays as it is. A copy that cannot be completed is removed. False on failure.
+bool CopyOneFile(const Folder& from, const std::filesystem::path& name, const Folder& to,
+                 const TargetName& target, CopiedAttributes attributes);
 
 /// What lies directly in a folder: names without path, in the order of a directory window.
 struct FolderListing {
@@ -87,17 +120,11 @@ class TargetNames {
     TargetNames(const TargetNames&) = delete;
     TargetNames& operator=(const TargetNames&) = delete;
 
-    struct Target {
-        std::filesystem::path path;
-        bool exists;
-    };
-    /// Where an entry of that name is to be written.
-    Target Find(const std::filesystem::path& name) const;
+    TargetName Find(const std::filesystem::path& name) const;
 
   private:
     struct Names;
-    std::filesystem::path folder_;
-    std::unique_ptr<Names> names_;
+    std::unique_ptr<Names> names_;  // none for a new folder
 };
 
 }  // namespace cvlang

@@ -26,34 +26,39 @@ bool IsLinkedFolder(const fs::path& path) {
     return fs::is_symlink(fs::symlink_status(path, ignored)) && fs::is_directory(path, ignored);
 }
 
-void CopyFiles(const std::vector<fs::path>& names, const fs::path& from, const TargetNames& targets,
-               CopiedAttributes attributes) {
-    for (const fs::path& name : names) {
-        const TargetNames::Target target = targets.Find(name);
-        CopyOneFile(from / name, target.path, attributes, target.exists);
-    }
+void CopyFiles(const std::vector<fs::path>& names, const fs::path& from, const fs::path& to,
+               const TargetNames& targets, CopiedAttributes attributes) {
+    const Folder source(from);
+    const Folder target(to);
+    for (const fs::path& name : names)
+        CopyOneFile(source, name, target, targets.Find(name), attributes);
 }
 
-void CopyFolders(const FolderListing& listing, const fs::path& from, const TargetNames& targets);
+void CopyFolders(const FolderListing& listing, const fs::path& from, const fs::path& to,
+                 const TargetNames& targets);
 
-void CopyFolder(const fs::path& from, const TargetNames::Target& to) {
-    if (to.exists && (IsLinkedFolder(to.path) || IsSameFolder(from, to.path)))
+void CopyFolder(const fs::path& from, const fs::path& to, bool exists) {
+    if (exists && (IsLinkedFolder(to) || IsSameFolder(from, to)))
         return;
     // Listed before the copy exists: a folder copied into itself must not find its own copy.
     const FolderListing listing = ListFolder(from);
-    const bool isNew = CreateFolder(to.path);
-    const TargetNames targets(to.path, isNew);
-    CopyFiles(listing.files, from, targets, CopiedAttributes::Kept);
-    CopyFolders(listing, from, targets);
+    const bool isNew = CreateFolder(to);
+    const TargetNames targets(to, isNew);
+    CopyFiles(listing.files, from, to, targets, CopiedAttributes::Kept);
+    CopyFolders(listing, from, to, targets);
 }
 
-void CopyFolders(const FolderListing& listing, const fs::path& from, const TargetNames& targets) {
+void CopyFolders(const FolderListing& listing, const fs::path& from, const fs::path& to,
+                 const TargetNames& targets) {
+    const auto copy = [&](const fs::path& name) {
+        const TargetName target = targets.Find(name);
+        CopyFolder(from / name, to / target.name, target.exists);
+    };
     for (const fs::path& name : listing.folders)
-        CopyFolder(from / name, targets.Find(name));
+        copy(name);
     for (const fs::path& name : listing.linkedFolders) {
-        const TargetNames::Target target = targets.Find(name);
-        if (!LiesIn(from, from / name) && !LiesIn(target.path.parent_path(), from / name))
-            CopyFolder(from / name, target);
+        if (!LiesIn(from, from / name) && !LiesIn(to, from / name))
+            copy(name);
     }
 }
 
@@ -62,7 +67,7 @@ void CopyFolders(const FolderListing& listing, const fs::path& from, const Targe
 void CopyFilesOf(const fs::path& from, const fs::path& to, CopiedAttributes attributes) {
     const FolderListing listing = ListFolder(from);
     if (!IsSameFolder(from, to)) {
-        CopyFiles(listing.files, from, TargetNames(to, false), attributes);
+        CopyFiles(listing.files, from, to, TargetNames(to, false), attributes);
     } else if (attributes == CopiedAttributes::Archive) {
         for (const fs::path& name : listing.files)
             ResetAttributes(from / name);
@@ -71,7 +76,7 @@ void CopyFilesOf(const fs::path& from, const fs::path& to, CopiedAttributes attr
 
 void CopyFoldersOf(const fs::path& from, const fs::path& to) {
     if (!IsSameFolder(from, to))
-        CopyFolders(ListFolder(from), from, TargetNames(to, false));
+        CopyFolders(ListFolder(from), from, to, TargetNames(to, false));
 }
 
 }  // namespace cvlang

@@ -50,12 +50,12 @@ std::u16string WithNewValue(std::u16string_view text, std::u16string_view key,
 void RewriteKeyedLine(const std::filesystem::path& target, const std::filesystem::path& temporary,
                       std::u16string_view key, std::u16string_view value, const Logs& logs) {
     const std::filesystem::path file = FindExisting(target);
-    std::u16string text;
-    switch (ReadUtf16File(file, text)) {
+    const Utf16File original(file);
+    switch (original.Status()) {
         case FileStatus::Okay: {
             const std::filesystem::path copy = FindExisting(temporary);
             RemoveFile(copy);
-            WriteUtf16File(copy, WithNewValue(text, key, value));
+            WriteUtf16File(copy, WithNewValue(original.Text(), key, value));
             // Deleted before the copy is known to exist, and on purpose: readers never see two files, and every failure
             // leaves the state that the mail server's own tools expect.
             RemoveFile(file);

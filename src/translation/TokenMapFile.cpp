@@ -50,9 +50,8 @@ std::u16string GetTokenValue(const Configuration& config, std::u16string_view cu
                              std::u16string_view token, std::u16string_view BaseName,
                              std::u16string_view LangName) {
     token = NormaliseToken(token);
-    std::u16string text;
-    ReadUtf16File(GetLanguageMapFilePath(config, currentApplication, BaseName, LangName), text);
-    Lines<char16_t> lines(text);
+    const Utf16File file(GetLanguageMapFilePath(config, currentApplication, BaseName, LangName));
+    Lines<char16_t> lines(file.Text());
     for (std::u16string_view line; lines.Next(line);) {
         if (SplitField(line, kTab, kTokenField) == token)
             return std::u16string(SplitField(line, kTab, kValueField));
@@ -63,10 +62,9 @@ std::u16string GetTokenValue(const Configuration& config, std::u16string_view cu
 void LoadTokens(const Configuration& config, std::u16string_view ApplicationName,
                 std::u16string_view BaseName, std::u16string_view LangName,
                 std::vector<std::u16string>& arrTokens, std::vector<std::u16string>& arrValues) {
-    std::u16string text;
-    ReadUtf16File(LanguageMapFileIn(config.GetApplicationDirectory(), config, ApplicationName,
-                                    BaseName, LangName),
-                  text);
+    const Utf16File file(LanguageMapFileIn(config.GetApplicationDirectory(), config,
+                                           ApplicationName, BaseName, LangName));
+    const std::u16string_view text = file.Text();
     const auto lineEnds = static_cast<std::size_t>(std::count(text.begin(), text.end(), u'\n'));
     arrTokens.reserve(lineEnds + 2);
     arrValues.reserve(lineEnds + 2);

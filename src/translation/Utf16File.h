@@ -2,7 +2,6 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
 #include <string_view>
 
 #include "platform/FileSystem.h"
@@ -11,11 +10,20 @@ namespace cvlang {
 
 inline constexpr std::u16string_view kLineEnd = u"\r\n";
 
-/// The text of a file's bytes. A byte-order mark is skipped, an odd last byte dropped.
-std::u16string DecodeUtf16(std::string_view bytes);
+/// A file's text as it was when it was read.
+class Utf16File {
+  public:
+    /// Reads a file; the text is empty on failure.
+    explicit Utf16File(const std::filesystem::path& path) : status_(ReadFile(path, content_)) {}
 
-/// Reads a file's text; it is empty on failure.
-FileStatus ReadUtf16File(const std::filesystem::path& path, std::u16string& text);
+    FileStatus Status() const { return status_; }
+    /// The text without a byte-order mark, an odd last byte dropped. It lives as long as the object.
+    std::u16string_view Text() const;
+
+  private:
+    FileContent content_;
+    FileStatus status_;
+};
 
 /// Makes the text, behind a byte-order mark, the file's whole content. False on failure.
 bool WriteUtf16File(const std::filesystem::path& path, std::u16string_view text);

@@ -43,9 +43,24 @@ class Descriptor {
 
 std::error_code LastError() { return {errno, std::generic_category()}; }
 
-int Open(const fs::path& path, int flags, mode_t mode = kNewFileMode) {
-    return open(path.c_str(), flags | O_CLOEXEC, mode);
+/// A file's place: a directory and the name in it, or a whole path.
+struct Place {
+    Place(const Folder& folder, const fs::path& file)
+        : directory(folder.Descriptor()), name(file.c_str()) {}
+    explicit Place(const fs::path& path) : directory(AT_FDCWD), name(path.c_str()) {}
+
+    int directory;
+    const char* name;
+};
+
+int Open(const Place& place, int flags, mode_t mode = kNewFileMode) {
+    return openat(place.directory, place.name, flags | O_CLOEXEC, mode);
 }
+
+bool Remove(const Place& place) {
+    return unlinkat(place.directory, place.name, 0) == 0 || errno == ENOENT;
+}
+
 
 /// Reads up to `size` bytes; a negative number on failure. A signal does not end it.
 ssize_t Read(const Descriptor& file, char* to, std::size_t size) {
@@ -79,18 +94,27 @@ bool IsFolder(const fs::path& path) {
     return fs::is_directory(path, ignored);
 }
 
-FileStatus StatusOfFailedOpen(const fs::path& path) {
+FileStatus StatusOfFailedOpen(const fs::path& folder) {
     const bool noSuchName = errno == ENOENT;
-    const fs::path folder = path.has_parent_path() ? path.parent_path() : ".";
     return noSuchName && IsFolder(FindExisting(folder)) ? FileStatus::NotFound
                                                         : FileStatus::OtherError;
 }
 
-int OpenExisting(const fs::path& path) {
-    const int exact = Open(path, O_RDONLY);
+int OpenExisting(const Folder& folder, const fs::path& name) {
+    const int exact = Open({folder, name}, O_RDONLY);
     if (exact >= 0 || errno != ENOENT)
         return exact;
-    return Open(FindExisting(path), O_RDONLY);
+    return Open(Place(FindExisting(folder.Path() / name)), O_RDONLY);
+}
+
+fs::path FolderOf(const fs::path& path) { return path.has_parent_path() ? path.parent_path() : "."; }
+
+bool Write(const Place& place, std::string_view bytes) {
+    Descriptor file(Open(place, O_WRONLY | O_CREAT | O_TRUNC));
+    if (!file.IsOpen())
+        return false;
+    const bool written = WriteAll(file, bytes);
+    return file.Close() && written;
 }
 
 /// Copies what is left to read; `size` is what the file is expected to hold in all.
@@ -111,16 +135,14 @@ bool CopyBytes(const Descriptor& from, const Descriptor& to, off_t size) {
 
 /// Makes way for a copy. Truncating instead would have ext4 write the file to the disk at once, a hundred times slower.
 /// False when nothing must be written, because the target is the file to be copied.
-bool MakeWay(const fs::path& to, const struct stat& original) {
-    if (unlink(to.c_str()) == 0 || errno == ENOENT)
-        return true;
+bool MakeWay(const Place& to, const struct stat& original) {
     struct stat existing {};
-    if (stat(to.c_str(), &existing) != 0)
+    if (Remove(to) || fstatat(to.directory, to.name, &existing, 0) != 0)
         return true;
     if (IsSameFile(existing, original))
         return false;
     if (IsReadOnly(existing))
-        chmod(to.c_str(), existing.st_mode | S_IWUSR);
+        fchmodat(to.directory, to.name, existing.st_mode | S_IWUSR, 0);
     return true;
 }
 
@@ -157,22 +179,28 @@ bool PrecedesInDirectoryWindow(const fs::path& a, const fs::path& b) {
 
 }  // namespace
 
-FileStatus ReadFile(const fs::path& path, FileContent& content) {
+Folder::Folder(const fs::path& path)
+    : path_(path), descriptor_(Open(Place(path), O_PATH | O_DIRECTORY)) {}
+
+Folder::~Folder() {
+    if (descriptor_ >= 0)
+        close(descriptor_);
+}
+
+FileStatus ReadFile(const Folder& folder, const fs::path& name, FileContent& content) {
     content.size_ = 0;
-    const Descriptor file(OpenExisting(path));
+    const Descriptor file(OpenExisting(folder, name));
     struct stat status {};
     if (!file.IsOpen())
-        return StatusOfFailedOpen(path);
+        return StatusOfFailedOpen(folder.Path());
     if (fstat(file.Number(), &status) != 0 || !S_ISREG(status.st_mode))
         return FileStatus::OtherError;
     content.hasAttributes_ = IsReadOnly(status);
     // One byte more than expected: a shorter answer then says that this was all.
-    std::size_t capacity = static_cast<std::size_t>(status.st_size) + 1;
+    content.Reserve(static_cast<std::size_t>(status.st_size) + 1);
     for (;;) {
-        if (content.buffer_.size() < capacity)
-            content.buffer_.resize(capacity);
-        const std::size_t room = content.buffer_.size() - content.size_;
-        const ssize_t count = Read(file, content.buffer_.data() + content.size_, room);
+        const std::size_t room = content.capacity_ - content.size_;
+        const ssize_t count = Read(file, content.buffer_.get() + content.size_, room);
         if (count < 0) {
             content.size_ = 0;
             return FileStatus::OtherError;
@@ -180,20 +208,22 @@ FileStatus ReadFile(const fs::path& path, FileContent& content) {
         content.size_ += static_cast<std::size_t>(count);
         if (static_cast<std::size_t>(count) < room)
             return FileStatus::Okay;
-        capacity = content.buffer_.size() * 2;
+        content.Reserve(content.capacity_ * 2);
     }
 }
 
-bool WriteFile(const fs::path& path, std::string_view bytes) {
-    Descriptor file(Open(path, O_WRONLY | O_CREAT | O_TRUNC));
-    if (!file.IsOpen())
-        return false;
-    const bool written = WriteAll(file, bytes);
-    return file.Close() && written;
+FileStatus ReadFile(const fs::path& path, FileContent& content) {
+    return ReadFile(Folder(FindExisting(FolderOf(path))), path.filename(), content);
 }
 
+bool WriteFile(const Folder& folder, const fs::path& name, std::string_view bytes) {
+    return Write({folder, name}, bytes);
+}
+
+bool WriteFile(const fs::path& path, std::string_view bytes) { return Write(Place(path), bytes); }
+
 std::error_code AppendToFile(const fs::path& path, std::string_view bytes) {
-    Descriptor file(Open(path, O_WRONLY | O_CREAT | O_APPEND));
+    Descriptor file(Open(Place(path), O_WRONLY | O_CREAT | O_APPEND));
     if (!file.IsOpen() || !WriteAll(file, bytes) || !file.Close())
         return LastError();
     return {};
@@ -204,7 +234,9 @@ bool EntryExists(const fs::path& path) {
     return fs::exists(FindExisting(path), ignored);
 }
 
-bool RemoveFile(const fs::path& path) { return unlink(path.c_str()) == 0 || errno == ENOENT; }
+bool RemoveFile(const Folder& folder, const fs::path& name) { return Remove({folder, name}); }
+
+bool RemoveFile(const fs::path& path) { return Remove(Place(path)); }
 
 bool RenameFile(const fs::path& from, const fs::path& to) {
     if (IsFolder(from))
@@ -226,23 +258,23 @@ void ResetAttributes(const fs::path& path) {
         chmod(path.c_str(), status.st_mode | S_IWUSR);
 }
 
-bool CopyOneFile(const fs::path& from, const fs::path& to, CopiedAttributes attributes,
-                 bool overwrites) {
-    const Descriptor source(Open(from, O_RDONLY));
+bool CopyOneFile(const Folder& from, const fs::path& name, const Folder& to,
+                 const TargetName& target, CopiedAttributes attributes) {
+    const Place place(to, target.name);
+    const Descriptor source(Open({from, name}, O_RDONLY));
     struct stat original {};
     if (!source.IsOpen() || fstat(source.Number(), &original) != 0)
         return false;
-    if (overwrites && !MakeWay(to, original))
+    if (target.exists && !MakeWay(place, original))
         return true;
-    const mode_t mode = attributes == CopiedAttributes::Archive ? original.st_mode | S_IWUSR
-                                                                : original.st_mode;
-    Descriptor target(Open(to, O_WRONLY | O_CREAT | O_TRUNC, mode & 0777));
-    if (!target.IsOpen())
+    const mode_t added = attributes == CopiedAttributes::Archive ? S_IWUSR : 0;
+    Descriptor copy(Open(place, O_WRONLY | O_CREAT | O_TRUNC, (original.st_mode | added) & 0777));
+    if (!copy.IsOpen())
         return false;
-    const bool copied = CopyBytes(source, target, original.st_size);
-    if (target.Close() && copied)
+    const bool copied = CopyBytes(source, copy, original.st_size);
+    if (copy.Close() && copied)
         return true;
-    unlink(to.c_str());
+    Remove(place);
     return false;
 }
 
@@ -264,16 +296,16 @@ struct TargetNames::Names {
     DirectoryEntries entries;
 };
 
-TargetNames::TargetNames(const fs::path& folder, bool folderIsNew) : folder_(folder) {
+TargetNames::TargetNames(const fs::path& folder, bool folderIsNew) {
     if (!folderIsNew)
         names_ = std::make_unique<Names>(Names{DirectoryEntries(folder)});
 }
 
 TargetNames::~TargetNames() = default;
 
-TargetNames::Target TargetNames::Find(const fs::path& name) const {
+TargetName TargetNames::Find(const fs::path& name) const {
     const auto existing = names_ ? names_->entries.Find(name.native()) : std::nullopt;
-    return {folder_ / existing.value_or(name.native()), existing.has_value()};
+    return {existing ? fs::path(*existing) : name, existing.has_value()};
 }
 
 }  // namespace cvlang

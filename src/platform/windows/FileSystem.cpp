@@ -67,9 +67,13 @@ bool PrecedesInDirectoryWindow(const fs::path& a, const fs::path& b) {
 
 }  // namespace
 
-FileStatus ReadFile(const fs::path& path, FileContent& content) {
+Folder::Folder(const fs::path& path) : path_(path) {}
+
+Folder::~Folder() = default;
+
+FileStatus ReadFile(const Folder& folder, const fs::path& name, FileContent& content) {
     content.size_ = 0;
-    const FileHandle file(path, GENERIC_READ, OPEN_EXISTING);
+    const FileHandle file(folder.Path() / name, GENERIC_READ, OPEN_EXISTING);
     if (!file.IsOpen()) {
         return GetLastError() == ERROR_FILE_NOT_FOUND ? FileStatus::NotFound
                                                       : FileStatus::OtherError;
@@ -78,14 +82,12 @@ FileStatus ReadFile(const fs::path& path, FileContent& content) {
     if (!GetFileInformationByHandle(file.Get(), &information))
         return FileStatus::OtherError;
     content.hasAttributes_ = HasAttributes(information.dwFileAttributes);
-    std::size_t capacity = (static_cast<std::size_t>(information.nFileSizeHigh) << 32) +
-                           information.nFileSizeLow + 1;
+    content.Reserve((static_cast<std::size_t>(information.nFileSizeHigh) << 32) +
+                    information.nFileSizeLow + 1);
     for (;;) {
-        if (content.buffer_.size() < capacity)
-            content.buffer_.resize(capacity);
-        const std::size_t room = content.buffer_.size() - content.size_;
+        const std::size_t room = content.capacity_ - content.size_;
         DWORD count = 0;
-        if (!::ReadFile(file.Get(), content.buffer_.data() + content.size_,
+        if (!::ReadFile(file.Get(), content.buffer_.get() + content.size_,
                         static_cast<DWORD>(std::min<std::size_t>(room, kLargestTransfer)), &count,
                         nullptr)) {
             content.size_ = 0;
@@ -95,8 +97,16 @@ FileStatus ReadFile(const fs::path& path, FileContent& content) {
         if (count == 0)
             return FileStatus::Okay;
         if (count == room)
-            capacity = content.buffer_.size() * 2;
+            content.Reserve(content.capacity_ * 2);
     }
+}
+
+FileStatus ReadFile(const fs::path& path, FileContent& content) {
+    return ReadFile(Folder(path.parent_path()), path.filename(), content);
+}
+
+bool WriteFile(const Folder& folder, const fs::path& name, std::string_view bytes) {
+    return WriteFile(folder.Path() / name, bytes);
 }
 
 bool WriteFile(const fs::path& path, std::string_view bytes) {
@@ -113,6 +123,10 @@ std::error_code AppendToFile(const fs::path& path, std::string_view bytes) {
 
 bool EntryExists(const fs::path& path) {
     return GetFileAttributesW(LongPath(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+bool RemoveFile(const Folder& folder, const fs::path& name) {
+    return RemoveFile(folder.Path() / name);
 }
 
 bool RemoveFile(const fs::path& path) {
@@ -135,11 +149,11 @@ void ResetAttributes(const fs::path& path) {
         SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
-bool CopyOneFile(const fs::path& from, const fs::path& to, CopiedAttributes attributes,
-                 bool overwrites) {
-    const std::wstring original = LongPath(from);
-    const std::wstring copy = LongPath(to);
-    if (overwrites) {
+bool CopyOneFile(const Folder& from, const fs::path& name, const Folder& to,
+                 const TargetName& target, CopiedAttributes attributes) {
+    const std::wstring original = LongPath(from.Path() / name);
+    const std::wstring copy = LongPath(to.Path() / target.name);
+    if (target.exists) {
         const DWORD existing = GetFileAttributesW(copy.c_str());
         if (existing != INVALID_FILE_ATTRIBUTES && (existing & FILE_ATTRIBUTE_READONLY) != 0)
             SetFileAttributesW(copy.c_str(), FILE_ATTRIBUTE_NORMAL);
@@ -170,18 +184,19 @@ FolderListing ListFolder(const fs::path& folder) {
     return listing;
 }
 
-struct TargetNames::Names {};
+struct TargetNames::Names {
+    fs::path folder;
+};
 
-TargetNames::TargetNames(const fs::path& folder, bool folderIsNew) : folder_(folder) {
+TargetNames::TargetNames(const fs::path& folder, bool folderIsNew) {
     if (!folderIsNew)
-        names_ = std::make_unique<Names>();
+        names_ = std::make_unique<Names>(Names{folder});
 }
 
 TargetNames::~TargetNames() = default;
 
-TargetNames::Target TargetNames::Find(const fs::path& name) const {
-    const fs::path path = folder_ / name;
-    return {path, names_ != nullptr && EntryExists(path)};
+TargetName TargetNames::Find(const fs::path& name) const {
+    return {name, names_ != nullptr && EntryExists(names_->folder / name)};
 }
 
 }  // namespace cvlang
