@@ -45,9 +45,12 @@ ContentFolders FoldersOf(const Configuration& config, std::u16string_view applic
     const std::u16string root = GetLanguageRoot(config, application, base);
     const std::u16string abbreviation =
         GetLanguageAbbreviation(config, application, language, base);
-    return {FindExisting(PathFromText(root + kSeparator + GetReferenceLanguageCode(config))),
-            FindExisting(PathFromText(root + kSeparator + abbreviation)),
-            root.empty() && abbreviation.empty()};
+    const fs::path reference = PathFromText(root + kSeparator + GetReferenceLanguageCode(config));
+    const fs::path folder = PathFromText(root + kSeparator + abbreviation);
+    // Without a root the folders are those at the root of the drive, by exactly these names: Linux has a /sys there.
+    if (root.empty())
+        return {reference, folder, abbreviation.empty()};
+    return {FindExisting(reference), FindExisting(folder), false};
 }
 
 bool MayOverwrite(Program& program) {

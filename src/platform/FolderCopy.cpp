@@ -12,15 +12,6 @@ bool IsSameFolder(const fs::path& a, const fs::path& b) {
     return fs::equivalent(a, b, ignored);
 }
 
-/// Whether the folder or one of those above it is `ancestor`.
-bool LiesIn(const fs::path& folder, const fs::path& ancestor) {
-    std::error_code failed;
-    const fs::path inner = fs::canonical(folder, failed);
-    const fs::path outer = fs::canonical(ancestor, failed);
-    return !failed && std::mismatch(outer.begin(), outer.end(), inner.begin(), inner.end()).first ==
-                          outer.end();
-}
-
 bool IsLinkedFolder(const fs::path& path) {
     std::error_code ignored;
     return fs::is_symlink(fs::symlink_status(path, ignored)) && fs::is_directory(path, ignored);
@@ -34,33 +25,55 @@ void CopyFiles(const std::vector<fs::path>& names, const fs::path& from, const f
         CopyOneFile(source, name, target, targets.Find(name), attributes);
 }
 
-void CopyFolders(const FolderListing& listing, const fs::path& from, const fs::path& to,
-                 const TargetNames& targets);
-
-void CopyFolder(const fs::path& from, const fs::path& to, bool exists) {
-    if (exists && (IsLinkedFolder(to) || IsSameFolder(from, to)))
-        return;
-    // Listed before the copy exists: a folder copied into itself must not find its own copy.
-    const FolderListing listing = ListFolder(from);
-    const bool isNew = CreateFolder(to);
-    const TargetNames targets(to, isNew);
-    CopyFiles(listing.files, from, to, targets, CopiedAttributes::Kept);
-    CopyFolders(listing, from, to, targets);
-}
-
-void CopyFolders(const FolderListing& listing, const fs::path& from, const fs::path& to,
-                 const TargetNames& targets) {
-    const auto copy = [&](const fs::path& name) {
-        const TargetName target = targets.Find(name);
-        CopyFolder(from / name, to / target.name, target.exists);
-    };
-    for (const fs::path& name : listing.folders)
-        copy(name);
-    for (const fs::path& name : listing.linkedFolders) {
-        if (!LiesIn(from, from / name) && !LiesIn(to, from / name))
+/// Copies folders within folders, and knows on the way which ones are being copied from and to.
+class FolderCopier {
+  public:
+    void CopyFolders(const FolderListing& listing, const fs::path& from, const fs::path& to,
+                     const TargetNames& targets) {
+        const auto copy = [&](const fs::path& name) {
+            const TargetName target = targets.Find(name);
+            CopyFolder(from / name, to / target.name, target.exists);
+        };
+        for (const fs::path& name : listing.folders)
             copy(name);
+        for (const fs::path& name : listing.linkedFolders) {
+            const std::size_t depth = busy_.size();
+            busy_.push_back(RealPath(from));
+            busy_.push_back(RealPath(to));
+            if (!LeadsBack(from / name))
+                copy(name);
+            busy_.resize(depth);
+        }
     }
-}
+
+  private:
+    static fs::path RealPath(const fs::path& path) {
+        std::error_code ignored;
+        return fs::canonical(path, ignored);
+    }
+
+    /// Whether a link leads to a folder that is being copied, or to one above it.
+    bool LeadsBack(const fs::path& link) const {
+        const fs::path outer = RealPath(link);
+        return std::any_of(busy_.begin(), busy_.end(), [&outer](const fs::path& inner) {
+            return std::mismatch(outer.begin(), outer.end(), inner.begin(), inner.end()).first ==
+                   outer.end();
+        });
+    }
+
+    void CopyFolder(const fs::path& from, const fs::path& to, bool exists) {
+        if (exists && (IsLinkedFolder(to) || IsSameFolder(from, to)))
+            return;
+        // Listed before the copy exists: a folder copied into itself must not find its own copy.
+        const FolderListing listing = ListFolder(from);
+        const bool isNew = CreateFolder(to);
+        const TargetNames targets(to, isNew);
+        CopyFiles(listing.files, from, to, targets, CopiedAttributes::Kept);
+        CopyFolders(listing, from, to, targets);
+    }
+
+    std::vector<fs::path> busy_;  // the real folders on both sides of every link that was followed
+};
 
 }  // namespace
 
@@ -76,7 +89,7 @@ void CopyFilesOf(const fs::path& from, const fs::path& to, CopiedAttributes attr
 
 void CopyFoldersOf(const fs::path& from, const fs::path& to) {
     if (!IsSameFolder(from, to))
-        CopyFolders(ListFolder(from), from, to, TargetNames(to, false));
+        FolderCopier().CopyFolders(ListFolder(from), from, to, TargetNames(to, false));
 }
 
 }  // namespace cvlang

@@ -1,0 +1,101 @@
+#include "generation/PageTranslator.h"
+
+#include <gtest/gtest.h>
+
+#include "support/FakeProgram.h"
+
+namespace cvlang {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr char kMark[] = "\xEF\xBB\xBF";
+
+/// Translates one page of WebMail default.net into French.
+void Translate(FakeProgram& fake, const fs::path& page, bool scriptAware = true) {
+    PageTranslator pages(fake.program, u"French", u"default.net", u"WebMail",
+                         {u"", u"[CV_TXT-TIME]"}, {u"", u"l'\u00E9t\u00E9"});
+    pages.TranslateFile(page, scriptAware);
+}
+
+TEST(PageTranslator, APageInTheLanguagesFolderIsRewrittenInPlaceBehindOneByteOrderMark) {
+    FakeProgram fake;
+    const fs::path page = fake.folder / "lang" / "fr" / "x.ASP";
+    for (const char* mark : {"", kMark}) {
+        PutFile(page, std::string(mark) + "\xE9 [CV_TXT-TIME]\r\n");
+        SetReadOnly(page, true);
+        Translate(fake, page);
+        EXPECT_EQ(FileBytes(page), std::string(kMark) + "\xE9 l'\xC3\xA9t\xC3\xA9");
+        EXPECT_FALSE(IsReadOnly(page));
+    }
+    PutFile(page, "");
+    Translate(fake, page);
+    EXPECT_EQ(FileBytes(page), kMark);
+}
+
+TEST(PageTranslator, OnlyAScriptFileIsScriptThroughoutAndOnlyWhenAskedFor) {
+    FakeProgram fake;
+    const std::string plain = std::string(kMark) + "l'\xC3\xA9t\xC3\xA9";
+    const std::string escaped = std::string(kMark) + "l\\'\xC3\xA9t\xC3\xA9";
+    for (const auto& [name, aware, expected] :
+         {std::tuple{"x.js", true, escaped}, {"X.Js", true, escaped}, {"x.js", false, plain},
+          {"x.asp", true, plain}, {"xjs", true, plain}}) {
+        PutFile(fake.folder / name, "[CV_TXT-TIME]");
+        Translate(fake, fake.folder / name, aware);
+        EXPECT_EQ(FileBytes(fake.folder / name), expected) << name;
+    }
+}
+
+TEST(PageTranslator, APageOfTheReferenceFolderGoesToItsMirror) {
+    FakeProgram fake;
+    const auto lang = fake.folder / "lang";
+    const struct {
+        int version;
+        const char* source;
+        const char* destination;
+    } cases[] = {
+        {2, "SYS/x.asp", "FR/x.asp"},
+        {1, "EN/x.asp", "FR/x.asp"},
+        {2, "SYS/in/SYS/x.asp", "FR/in/FR/x.asp"},
+        {2, "SYS/sys/x.asp", "FR/sys/x.asp"},
+        {2, "EN/x.asp", "EN/x.asp"},
+    };
+    for (const auto& [version, source, destination] : cases) {
+        fs::remove_all(lang);
+        fake.registry.numbers[u"Authoring Version"] = version;
+        PutFile(lang / source, "[CV_TXT-TIME]");
+        fs::create_directories((lang / destination).parent_path());
+        Translate(fake, (lang / source).make_preferred());
+        EXPECT_EQ(FileBytes(lang / destination), std::string(kMark) + "l'\xC3\xA9t\xC3\xA9");
+    }
+    // Without the mirrored folder the page is not produced, and its original stays.
+    fs::remove_all(lang);
+    PutFile(lang / "SYS" / "x.asp", "[CV_TXT-TIME]");
+    Translate(fake, lang / "SYS" / "x.asp");
+    EXPECT_EQ(FileBytes(lang / "SYS" / "x.asp"), "[CV_TXT-TIME]");
+    EXPECT_FALSE(fs::exists(lang / "FR"));
+}
+
+TEST(PageTranslator, APageThatCannotBeReadLeavesALineInTheLog) {
+    FakeProgram fake;
+    const fs::path page = fake.folder / "none.asp";
+    Translate(fake, page);
+    EXPECT_NE(fake.ErrorLog().find("\tError - could not find asp source: " + page.string() + "\r\n"),
+              std::string::npos);
+    EXPECT_FALSE(fs::exists(page));
+    // Nor does a log that cannot be written end anything.
+    fs::remove(fake.folder / "LangPort.log");
+    fs::create_directory(fake.folder / "LangPort.log");
+    Translate(fake, page);
+}
+
+TEST(PageTranslator, UseCountsGrowFromRunToRun) {
+    FakeProgram fake;
+    fake.program.tokenUseCounts = {0, 5, 7, 9};
+    PutFile(fake.folder / "x.asp", "[CV_TXT-TIME][CV_TXT-TIME]\r\n[CV_TXT-TIME]");
+    Translate(fake, fake.folder / "x.asp");
+    EXPECT_EQ(fake.program.tokenUseCounts, (std::vector<std::int32_t>{0, 7, 7, 9}));
+}
+
+}  // namespace
+}  // namespace cvlang

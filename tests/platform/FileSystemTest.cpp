@@ -1,0 +1,100 @@
+#include "platform/FileSystem.h"
+
+#include <gtest/gtest.h>
+
+#include "support/Files.h"
+
+namespace cvlang {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(FileSystem, ReadingTellsAMissingFileFromAMissingFolder) {
+    const TemporaryFolder folder;
+    FileContent content;
+    PutFile(folder / "a.txt", "bytes");
+    EXPECT_EQ(ReadFile(folder / "a.txt", content), FileStatus::Okay);
+    EXPECT_EQ(content.Bytes(), "bytes");
+    EXPECT_EQ(ReadFile(folder / "b.txt", content), FileStatus::NotFound);
+    EXPECT_EQ(content.Bytes(), "");
+    EXPECT_EQ(ReadFile(folder / "none" / "b.txt", content), FileStatus::OtherError);
+    EXPECT_EQ(ReadFile(folder.Path(), content), FileStatus::OtherError);
+}
+
+TEST(FileSystem, ContentOfAnySizeIsReadWholeIntoMemoryUsedBefore) {
+    const TemporaryFolder folder;
+    FileContent content;
+    for (const std::size_t size : {100000U, 3U, 0U, 65536U}) {
+        const std::string bytes(size, static_cast<char>('a' + size % 26));
+        ASSERT_TRUE(WriteFile(folder / "file", bytes));
+        ASSERT_EQ(ReadFile(folder / "file", content), FileStatus::Okay);
+        EXPECT_EQ(content.Bytes(), bytes);
+    }
+}
+
+TEST(FileSystem, RenamingNeitherReplacesAFileNorMovesAFolder) {
+    const TemporaryFolder folder;
+    PutFile(folder / "new", "new");
+    PutFile(folder / "old", "old");
+    EXPECT_FALSE(RenameFile(folder / "new", folder / "old"));
+    EXPECT_EQ(FileBytes(folder / "old"), "old");
+    EXPECT_TRUE(RemoveFile(folder / "old"));
+    EXPECT_TRUE(RenameFile(folder / "new", folder / "old"));
+    EXPECT_EQ(FileBytes(folder / "old"), "new");
+    EXPECT_FALSE(RenameFile(folder / "new", folder / "other"));
+    ASSERT_TRUE(CreateFolder(folder / "folder"));
+    EXPECT_FALSE(RenameFile(folder / "folder", folder / "other"));
+}
+
+TEST(FileSystem, AppendingCreatesTheFileAndTellsWhatFailed) {
+    const TemporaryFolder folder;
+    EXPECT_FALSE(AppendToFile(folder / "log", "one\n"));
+    EXPECT_FALSE(AppendToFile(folder / "log", "two\n"));
+    EXPECT_EQ(FileBytes(folder / "log"), "one\ntwo\n");
+    EXPECT_TRUE(AppendToFile(folder / "none" / "log", "one\n"));
+}
+
+TEST(FileSystem, AFolderIsListedInTheOrderOfADirectoryWindow) {
+    const TemporaryFolder folder;
+    for (const char* name : {"b.asp", "C.asp", "a.asp", "Abc.asp"})
+        PutFile(folder / name, "");
+    for (const char* name : {"two", "One"})
+        CreateFolder(folder / name);
+    const FolderListing listing = ListFolder(folder.Path());
+    EXPECT_EQ(listing.files, (std::vector<fs::path>{"a.asp", "Abc.asp", "b.asp", "C.asp"}));
+    EXPECT_EQ(listing.folders, (std::vector<fs::path>{"One", "two"}));
+    EXPECT_TRUE(ListFolder(folder / "none").files.empty());
+}
+
+TEST(FileSystem, ACopyReplacesReadOnlyFilesAndMayClearTheAttribute) {
+    const TemporaryFolder folder;
+    PutFile(folder / "from" / "page", "fresh");
+    PutFile(folder / "to" / "page", "stale and longer");
+    SetReadOnly(folder / "from" / "page", true);
+    SetReadOnly(folder / "to" / "page", true);
+    const Folder from(folder / "from");
+    const Folder to(folder / "to");
+    EXPECT_TRUE(CopyOneFile(from, "page", to, {"page", true}, CopiedAttributes::Kept));
+    EXPECT_EQ(FileBytes(folder / "to" / "page"), "fresh");
+    EXPECT_TRUE(IsReadOnly(folder / "to" / "page"));
+    EXPECT_TRUE(CopyOneFile(from, "page", to, {"page", true}, CopiedAttributes::Archive));
+    EXPECT_FALSE(IsReadOnly(folder / "to" / "page"));
+    EXPECT_FALSE(CopyOneFile(from, "none", to, {"page", true}, CopiedAttributes::Kept));
+    EXPECT_EQ(FileBytes(folder / "to" / "page"), "fresh");
+}
+
+TEST(FileSystem, LargeFilesAreCopiedWhole) {
+    const TemporaryFolder folder;
+    std::string bytes(200001, 'x');
+    bytes[65536] = 'y';
+    for (const std::size_t size : {std::size_t{65536}, std::size_t{131072}, bytes.size()}) {
+        PutFile(folder / "large", std::string_view(bytes).substr(0, size));
+        const Folder place(folder.Path());
+        EXPECT_TRUE(
+            CopyOneFile(place, "large", place, {"copy", true}, CopiedAttributes::Kept));
+        EXPECT_EQ(FileBytes(folder / "copy"), bytes.substr(0, size));
+    }
+}
+
+}  // namespace
+}  // namespace cvlang

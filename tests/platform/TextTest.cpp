@@ -1,0 +1,53 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "platform/Ansi.h"
+#include "platform/LetterCase.h"
+#include "platform/Paths.h"
+#include "platform/Utf8.h"
+
+namespace cvlang {
+namespace {
+
+TEST(Ansi, EveryByteSurvivesTheWayThereAndBack) {
+    std::string all;
+    for (int byte = 0; byte < 256; ++byte)
+        all += static_cast<char>(byte);
+    EXPECT_EQ(Utf16ToAnsi(AnsiToUtf16(all)), all);
+    EXPECT_EQ(AnsiToUtf16("\x80\xE9\x81"), u"\u20AC\u00E9\u0081");
+}
+
+TEST(Ansi, CharactersThatTheCodePageLacksAreNotReplacedByLookalikes) {
+    EXPECT_EQ(Utf16ToAnsi(u"\u0141\u00E9\u3042"), "?\xE9?");
+    EXPECT_EQ(Utf16ToAnsiExactly(u"[CV_TXT-\u00C9]"), "[CV_TXT-\xC9]");
+    EXPECT_EQ(Utf16ToAnsiExactly(u"?"), "?");
+    for (const char16_t* lacking : {u"\u0141", u"\u3042", u"\xD800"})
+        EXPECT_EQ(Utf16ToAnsiExactly(lacking), std::nullopt);
+}
+
+TEST(Utf8, AnyTextSurvivesTheWayThereAndBackLoneSurrogatesToo) {
+    std::mt19937 random(7);
+    for (int round = 0; round < 2000; ++round) {
+        std::u16string text(random() % 12, u'\0');
+        for (char16_t& c : text)
+            c = static_cast<char16_t>(random() % 2 ? random() : 0xD7F0 + random() % 0x820);
+        EXPECT_EQ(Utf8ToUtf16(Utf16ToUtf8(text)), text);
+        EXPECT_EQ(TextFromPath(PathFromText(text)), text);
+    }
+    EXPECT_EQ(Utf16ToUtf8(u"\u00E9\u3042\U0001F600"), "\xC3\xA9\xE3\x81\x82\xF0\x9F\x98\x80");
+}
+
+TEST(Utf8, MalformedBytesBecomeReplacementCharactersOneByOne) {
+    for (const char* bytes : {"\x80", "\xC3", "\xC1\x81", "\xE0\x80", "\xF5\x80", "\xFF"})
+        EXPECT_EQ(Utf8ToUtf16(bytes), std::u16string(std::string_view(bytes).size(), 0xFFFD));
+    EXPECT_EQ(Utf8ToUtf16("a\xC3z"), u"a\uFFFDz");
+}
+
+TEST(LetterCase, CapitalsAreMadeLetterByLetter) {
+    EXPECT_EQ(ToUpper(u"fran\u00E7ais \u00DF i\u0131 \u03B1 \u0436 z9[{"),
+              u"FRAN\u00C7AIS \u00DF I" + ToUpper(u"\u0131") + u" \u0391 \u0416 Z9[{");
+}
+
+}  // namespace
+}  // namespace cvlang

@@ -1,0 +1,62 @@
+#include "support/Files.h"
+
+#include <atomic>
+#include <chrono>
+#include <fstream>
+#include <iterator>
+
+namespace cvlang {
+
+namespace fs = std::filesystem;
+
+TemporaryFolder::TemporaryFolder() {
+    static std::atomic<int> number = 0;
+    const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
+    path_ = fs::canonical(fs::temp_directory_path()) /
+            ("cvlang-" + std::to_string(now) + "-" + std::to_string(number++));
+    fs::create_directories(path_);
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    std::error_code ignored;
+    for (const auto& entry : fs::recursive_directory_iterator(path_, ignored))
+        fs::permissions(entry.path(), fs::perms::owner_all, fs::perm_options::add, ignored);
+    fs::remove_all(path_, ignored);
+}
+
+CurrentFolder::CurrentFolder(const fs::path& folder) : before_(fs::current_path()) {
+    fs::current_path(folder);
+}
+
+CurrentFolder::~CurrentFolder() { fs::current_path(before_); }
+
+void PutFile(const fs::path& path, std::string_view bytes) {
+    fs::create_directories(path.parent_path());
+    std::ofstream file(path, std::ios::binary);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+}
+
+std::string FileBytes(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file)
+        return "(no file)";
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+std::string Utf16Bytes(std::u16string_view text) {
+    std::string bytes = "\xFF\xFE";
+    for (const char16_t c : text)
+        bytes += {static_cast<char>(c & 0xFF), static_cast<char>(c >> 8)};
+    return bytes;
+}
+
+void SetReadOnly(const fs::path& path, bool readOnly) {
+    constexpr auto kWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    fs::permissions(path, kWrite, readOnly ? fs::perm_options::remove : fs::perm_options::add);
+}
+
+bool IsReadOnly(const fs::path& path) {
+    return (fs::status(path).permissions() & fs::perms::owner_write) == fs::perms::none;
+}
+
+}  // namespace cvlang

@@ -1,0 +1,50 @@
+// Real files in a folder of the test's own.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace cvlang {
+
+/// A fresh folder below the system's temporary one, removed with all that is in it when the test ends.
+class TemporaryFolder {
+  public:
+    TemporaryFolder();
+    ~TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    const std::filesystem::path& Path() const { return path_; }
+    std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
+
+  private:
+    std::filesystem::path path_;
+};
+
+/// Makes a folder the current one for the time of the test: the error log lies there.
+class CurrentFolder {
+  public:
+    explicit CurrentFolder(const std::filesystem::path& folder);
+    ~CurrentFolder();
+    CurrentFolder(const CurrentFolder&) = delete;
+    CurrentFolder& operator=(const CurrentFolder&) = delete;
+
+  private:
+    std::filesystem::path before_;
+};
+
+/// Writes a file, creating the folders above it.
+void PutFile(const std::filesystem::path& path, std::string_view bytes);
+
+/// A file's bytes; "(no file)" when there is none.
+std::string FileBytes(const std::filesystem::path& path);
+
+/// The bytes of a text in a file of the translation store: UTF-16 behind a byte-order mark.
+std::string Utf16Bytes(std::u16string_view text);
+
+/// Takes the write permission (on Windows: sets read-only), or gives it back.
+void SetReadOnly(const std::filesystem::path& path, bool readOnly);
+bool IsReadOnly(const std::filesystem::path& path);
+
+}  // namespace cvlang
