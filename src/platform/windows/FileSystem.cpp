@@ -160,8 +160,10 @@ bool CopyOneFile(const Folder& from, const fs::path& name, const Folder& to,
     }
     if (!CopyFileW(original.c_str(), copy.c_str(), FALSE))
         return false;
-    if (attributes == CopiedAttributes::Archive)
-        SetFileAttributesW(copy.c_str(), FILE_ATTRIBUTE_ARCHIVE);
+    // Not every Windows gives a file that was overwritten the attributes of the original.
+    SetFileAttributesW(copy.c_str(), attributes == CopiedAttributes::Archive
+                                         ? FILE_ATTRIBUTE_ARCHIVE
+                                         : GetFileAttributesW(original.c_str()));
     return true;
 }
 

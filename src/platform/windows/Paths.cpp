@@ -10,7 +10,10 @@ std::filesystem::path PathFromText(std::u16string_view text) {
     return std::wstring(text.begin(), text.end());
 }
 
-std::u16string TextFromPath(const std::filesystem::path& path) { return path.u16string(); }
+std::u16string TextFromPath(const std::filesystem::path& path) {
+    // Not u16string(), which refuses lone surrogates.
+    return {path.native().begin(), path.native().end()};
+}
 
 std::filesystem::path FindExisting(const std::filesystem::path& path) { return path; }
 
