@@ -7,8 +7,7 @@ namespace {
 
 using namespace yardstick;
 
-void rewritePages(const Folder& folder, Buffer& buffer)
-{
+void rewritePages(const Folder& folder, Buffer& buffer) {
     for (const auto& [name, inner] : folder.entries()) {
         if (inner) {
             rewritePages(Folder(folder.get(), name.c_str()), buffer);
@@ -22,10 +21,9 @@ void rewritePages(const Folder& folder, Buffer& buffer)
     }
 }
 
-} // namespace
+}  // namespace
 
-int main(int argumentCount, char** arguments)
-{
+int main(int argumentCount, char** arguments) {
     return run(argumentCount, arguments,
                [](const char* reference, const char* language, Buffer& buffer) {
                    copyFolder(reference, language, buffer);

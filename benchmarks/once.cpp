@@ -3,7 +3,6 @@
 
 #include "yardstick.hpp"
 
-int main(int argumentCount, char** arguments)
-{
+int main(int argumentCount, char** arguments) {
     return yardstick::run(argumentCount, arguments, yardstick::copyFolder);
 }

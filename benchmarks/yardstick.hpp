@@ -22,16 +22,14 @@
 
 namespace yardstick {
 
-[[noreturn]] inline void fail(const char* what)
-{
+[[noreturn]] inline void fail(const char* what) {
     throw std::system_error(errno, std::generic_category(), what);
 }
 
 /// An open file or folder.
 class Descriptor {
-public:
-    explicit Descriptor(int number, const char* what) : number_(number)
-    {
+  public:
+    explicit Descriptor(int number, const char* what) : number_(number) {
         if (number_ < 0) {
             fail(what);
         }
@@ -42,15 +40,14 @@ public:
 
     [[nodiscard]] int get() const { return number_; }
 
-private:
+  private:
     int number_;
 };
 
 /// The one buffer of the program; grows, never shrinks, is never cleared.
 class Buffer {
-public:
-    void require(std::size_t size)
-    {
+  public:
+    void require(std::size_t size) {
         if (size > capacity_) {
             capacity_ = std::max(size, 2 * capacity_);
             bytes_.reset();
@@ -59,7 +56,7 @@ public:
     }
     [[nodiscard]] char* data() { return bytes_.get(); }
 
-private:
+  private:
     std::size_t capacity_ = 0;
     std::unique_ptr<char[]> bytes_;
 };
@@ -71,9 +68,8 @@ struct Entry {
 
 /// An open folder whose entries can be listed.
 class Folder {
-public:
-    Folder(int parent, const char* name)
-    {
+  public:
+    Folder(int parent, const char* name) {
         const int number = ::openat(parent, name, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
         listing_ = number < 0 ? nullptr : ::fdopendir(number);
         if (listing_ == nullptr) {
@@ -88,8 +84,7 @@ public:
 
     /// The files and folders in it. Complete before anything in the folder is changed, so that a
     /// file written anew is not met twice.
-    [[nodiscard]] std::vector<Entry> entries() const
-    {
+    [[nodiscard]] std::vector<Entry> entries() const {
         std::vector<Entry> found;
         while (const dirent* const entry = ::readdir(listing_)) {
             const char* const name = entry->d_name;
@@ -105,10 +100,9 @@ public:
         return found;
     }
 
-private:
+  private:
     /// For the file systems that do not give the type in the listing.
-    [[nodiscard]] unsigned char lookUpType(const char* name) const
-    {
+    [[nodiscard]] unsigned char lookUpType(const char* name) const {
         struct stat status {};
         if (::fstatat(get(), name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
             fail(name);
@@ -119,8 +113,7 @@ private:
     DIR* listing_ = nullptr;
 };
 
-inline void writeAll(int file, const char* bytes, std::size_t size)
-{
+inline void writeAll(int file, const char* bytes, std::size_t size) {
     while (size > 0) {
         const ssize_t written = ::write(file, bytes, size);
         if (written < 0) {
@@ -132,8 +125,7 @@ inline void writeAll(int file, const char* bytes, std::size_t size)
 }
 
 /// Reads a file whole into the buffer and returns its size.
-inline std::size_t readWhole(int folder, const char* name, Buffer& buffer)
-{
+inline std::size_t readWhole(int folder, const char* name, Buffer& buffer) {
     const Descriptor file(::openat(folder, name, O_RDONLY | O_CLOEXEC), name);
     struct stat status {};
     if (::fstat(file.get(), &status) != 0) {
@@ -155,16 +147,14 @@ inline std::size_t readWhole(int folder, const char* name, Buffer& buffer)
     return filled;
 }
 
-inline void writeNew(int folder, const char* name, const char* bytes, std::size_t size)
-{
+inline void writeNew(int folder, const char* name, const char* bytes, std::size_t size) {
     constexpr int flags = O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC;
     const Descriptor file(::openat(folder, name, flags, 0666), name);
     writeAll(file.get(), bytes, size);
 }
 
 /// Copies what is in one folder into another, each file with one read and one write.
-inline void copyTree(const Folder& from, int to, Buffer& buffer)
-{
+inline void copyTree(const Folder& from, int to, Buffer& buffer) {
     for (const auto& [name, folder] : from.entries()) {
         if (folder) {
             if (::mkdirat(to, name.c_str(), 0777) != 0 && errno != EEXIST) {
@@ -181,8 +171,7 @@ inline void copyTree(const Folder& from, int to, Buffer& buffer)
 }
 
 /// Makes the language folder and copies the reference folder into it.
-inline void copyFolder(const char* reference, const char* language, Buffer& buffer)
-{
+inline void copyFolder(const char* reference, const char* language, Buffer& buffer) {
     const Folder from(AT_FDCWD, reference);
     if (::mkdir(language, 0777) != 0 && errno != EEXIST) {
         fail(language);
@@ -192,8 +181,7 @@ inline void copyFolder(const char* reference, const char* language, Buffer& buff
 }
 
 /// Whether the name ends as the name of a page file does.
-inline bool isPage(const std::string& name)
-{
+inline bool isPage(const std::string& name) {
     const std::size_t dot = name.rfind('.');
     if (dot == std::string::npos) {
         return false;
@@ -206,8 +194,7 @@ inline bool isPage(const std::string& name)
 
 /// Runs a yardstick with its two folders and turns an exception into an exit status.
 template <typename Work>
-int run(int argumentCount, char** arguments, Work work)
-{
+int run(int argumentCount, char** arguments, Work work) {
     if (argumentCount != 3) {
         std::fprintf(stderr, "usage: %s SYS-FOLDER LANGUAGE-FOLDER\n", arguments[0]);
         return 2;
@@ -222,4 +209,4 @@ int run(int argumentCount, char** arguments, Work work)
     return 0;
 }
 
-} // namespace yardstick
+}  // namespace yardstick

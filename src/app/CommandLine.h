@@ -15,12 +15,13 @@ enum class ExitStatus {
     NoWindow = 3           // no arguments, and no window to show
 };
 
-/// The n-th field, from 1, of a text split at a delimiter. Double quotes protect delimiters and belong to no field; one
-/// that is not closed protects the rest. Each delimiter counts, so two in a row have an empty field between them.
+/// The n-th field, from 1, of a text split at a delimiter. Double quotes protect delimiters and
+/// belong to no field; one that is not closed protects the rest. Each delimiter counts, so two in a
+/// row have an empty field between them.
 std::u16string GetQuotedField(std::u16string_view sText, char16_t delimiter, int n);
 
-/// Runs one generation. The command line names application, base and language, parted by single blanks; an empty language
-/// is passed on.
+/// Runs one generation. The command line names application, base and language, parted by single
+/// blanks; an empty language is passed on.
 ExitStatus RunCommandLine(Program& program, std::u16string_view sCommandLine);
 
 }  // namespace cvlang

@@ -12,6 +12,7 @@ int main(int argc, char** argv) {
     const std::u16string commandLine = CommandLineText(argc, argv);
     if (!commandLine.empty())
         return static_cast<int>(RunCommandLine(program, commandLine));
-    WriteErrorLine(u"CVLangTranslator has no window yet. Usage: CVLangTranslator APPLICATION BASE LANGUAGE");
+    WriteErrorLine(
+        u"CVLangTranslator has no window yet. Usage: CVLangTranslator APPLICATION BASE LANGUAGE");
     return static_cast<int>(ExitStatus::NoWindow);
 }

@@ -7,7 +7,8 @@
 namespace cvlang {
 namespace {
 
-// What a failing registry is answered with. The two folders differ in their last letters, and set-up programs know both.
+// What a failing registry is answered with. The two folders differ in their last letters, and
+// set-up programs know both.
 constexpr std::u16string_view kDefaultText = u"Default Value";
 constexpr std::u16string_view kDefaultProgramDirectory = u"C:\\Program Files\\Corvane\\Bin";
 constexpr std::u16string_view kDefaultApplicationDirectory = u"C:\\Program Files\\Corvane\\BIN";
@@ -64,7 +65,9 @@ std::u16string Configuration::GetApplicationDirectory() const {
     return stored.empty() ? std::u16string(kDefaultApplicationDirectory) : stored;
 }
 
-std::u16string Configuration::GetSourceRoot() const { return ReadProductString(u"Source Root"); }
+std::u16string Configuration::GetSourceRoot() const {
+    return ReadProductString(u"Source Root");
+}
 
 std::u16string Configuration::GetLocalDomainName() const {
     return OrOnFailure(kDefaultText, [this] { return ReadProductString(u"SMTPLocalDomainName"); });

@@ -1,5 +1,5 @@
-// What the program knows about the installed mail server, read from the mail server's own registry key. Every accessor
-// reads anew, and nothing is ever written.
+// What the program knows about the installed mail server, read from the mail server's own registry
+// key. Every accessor reads anew, and nothing is ever written.
 #pragma once
 
 #include <cstdint>
@@ -15,7 +15,8 @@ class Configuration {
     /// The registry must outlive the configuration.
     explicit Configuration(const Registry& registry) : registry_(registry) {}
 
-    /// The text of a value; empty when it cannot be read. The default is not applied: callers bring their own.
+    /// The text of a value; empty when it cannot be read. The default is not applied: callers bring
+    /// their own.
     std::u16string ReadRegistryString(std::u16string_view key, std::u16string_view valueName,
                                       std::u16string_view defaultText) const;
     /// The number of a value; 0 when it cannot be read or is of another kind.

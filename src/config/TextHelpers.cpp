@@ -19,7 +19,8 @@ std::u16string PaddedHexadecimal(std::uint32_t number, int width) {
     return ZeroPad(width, static_cast<int>(digits.size())) + digits;
 }
 
-/// The digits as a number format of two places leaves them: it pads what reads as a decimal number, and "A" does not.
+/// The digits as a number format of two places leaves them: it pads what reads as a decimal number,
+/// and "A" does not.
 std::u16string FormattedByte(std::uint8_t byte) {
     return byte < 10 ? PaddedHexadecimal(byte, 2) : Hexadecimal(byte);
 }
@@ -47,7 +48,8 @@ std::u16string_view GetStringBetween(std::u16string_view text, std::u16string_vi
         return {};
     const std::size_t start = marker + startMarker.size();
     const std::size_t end = text.find(endMarker, start);
-    return end == std::u16string_view::npos ? std::u16string_view() : text.substr(start, end - start);
+    return end == std::u16string_view::npos ? std::u16string_view()
+                                            : text.substr(start, end - start);
 }
 
 int CountFields(std::u16string_view text, std::u16string_view delimiter) {
@@ -76,6 +78,8 @@ std::u16string CreateGuidString(const GuidSource& newGuid) {
     return text;
 }
 
-std::u16string GetLocalComputerName() { return ComputerName(); }
+std::u16string GetLocalComputerName() {
+    return ComputerName();
+}
 
 }  // namespace cvlang

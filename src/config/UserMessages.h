@@ -27,8 +27,8 @@ class UserMessages {
     virtual MessageAnswer Show(const UserMessage& message) = 0;
 };
 
-/// For a process without a display: writes the text to standard error. Nobody is there to agree, so a question is
-/// answered with No.
+/// For a process without a display: writes the text to standard error. Nobody is there to agree, so
+/// a question is answered with No.
 class StandardErrorMessages : public UserMessages {
   public:
     MessageAnswer Show(const UserMessage& message) override;

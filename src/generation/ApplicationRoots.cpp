@@ -42,7 +42,8 @@ std::u16string GetLanguageRoot(const Configuration& config, std::u16string_view 
     if (!sourceRoot.empty())
         return JoinPath({sourceRoot, webMail ? u"WebMail" : u"WebAdmin", u"base", base, u"lang"});
 
-    // As stored, without the usual place of installation: pages are never generated where nothing is installed.
+    // As stored, without the usual place of installation: pages are never generated where nothing
+    // is installed.
     const std::u16string directory = config.GetProgramDirectory();
     const std::u16string upperBase = ToUpper(base);
     for (const NetBase& net : kNetBases) {

@@ -1,4 +1,5 @@
-// Where an application base's pages lie: its language root holds the reference folder and the languages' folders.
+// Where an application base's pages lie: its language root holds the reference folder and the
+// languages' folders.
 #pragma once
 
 #include <string>
@@ -8,8 +9,8 @@
 
 namespace cvlang {
 
-/// The language root of an application base, without a separator at its end; empty when the base has none. Letter case
-/// does not matter in either name.
+/// The language root of an application base, without a separator at its end; empty when the base
+/// has none. Letter case does not matter in either name.
 std::u16string GetLanguageRoot(const Configuration& config, std::u16string_view application,
                                std::u16string_view base);
 

@@ -22,21 +22,21 @@ constexpr std::string_view kPageEndings[] = {".ASP", ".ASCX", ".ASPX", ".JS", ".
 
 bool EndsWith(const fs::path::string_type& name, std::string_view upperEnding) {
     return name.size() >= upperEnding.size() &&
-           std::equal(upperEnding.rbegin(), upperEnding.rend(), name.rbegin(), [](char e, auto c) {
-               return c == e || (e >= 'A' && c == e - 'A' + 'a');
-           });
+           std::equal(upperEnding.rbegin(), upperEnding.rend(), name.rbegin(),
+                      [](char e, auto c) { return c == e || (e >= 'A' && c == e - 'A' + 'a'); });
 }
 
 bool IsPage(const fs::path& name) {
-    return std::any_of(std::begin(kPageEndings), std::end(kPageEndings),
-                       [&name](std::string_view ending) { return EndsWith(name.native(), ending); });
+    return std::any_of(
+        std::begin(kPageEndings), std::end(kPageEndings),
+        [&name](std::string_view ending) { return EndsWith(name.native(), ending); });
 }
 
 struct ContentFolders {
     fs::path reference;
     fs::path language;
-    /// Without a language root and an abbreviation the language's folder would be the root of the drive, and every page
-    /// on it would be rewritten. Nothing is done then.
+    /// Without a language root and an abbreviation the language's folder would be the root of the
+    /// drive, and every page on it would be rewritten. Nothing is done then.
     bool areTheDrive = false;
 };
 
@@ -47,7 +47,8 @@ ContentFolders FoldersOf(const Configuration& config, std::u16string_view applic
         GetLanguageAbbreviation(config, application, language, base);
     const fs::path reference = PathFromText(root + kSeparator + GetReferenceLanguageCode(config));
     const fs::path folder = PathFromText(root + kSeparator + abbreviation);
-    // Without a root the folders are those at the root of the drive, by exactly these names: Linux has a /sys there.
+    // Without a root the folders are those at the root of the drive, by exactly these names: Linux
+    // has a /sys there.
     if (root.empty())
         return {reference, folder, abbreviation.empty()};
     return {FindExisting(reference), FindExisting(folder), false};

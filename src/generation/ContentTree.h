@@ -9,19 +9,20 @@
 
 namespace cvlang {
 
-/// Generates the pages of a language for an application base, over what is there already. True when the language's folder
-/// was prepared, whatever became of single files.
+/// Generates the pages of a language for an application base, over what is there already. True when
+/// the language's folder was prepared, whatever became of single files.
 bool ApplyTranslation(Program& program, std::u16string_view sApplication, std::u16string_view sBase,
                       std::u16string_view sLanguage);
 
-/// Copies the reference folder into the language's folder, overwriting; files that only the language's folder has stay.
-/// When the folder exists already, `iNoPrompt` is 0 and the program has a window, the user is asked first. False when he
-/// declined.
+/// Copies the reference folder into the language's folder, overwriting; files that only the
+/// language's folder has stay. When the folder exists already, `iNoPrompt` is 0 and the program has
+/// a window, the user is asked first. False when he declined.
 bool PrepareLanguageFolder(Program& program, std::u16string_view sApplication,
                            std::u16string_view sBase, std::u16string_view sLanguage, int iNoPrompt);
 
-/// Translates the pages in a folder, those of its subfolders before its own when `bRecurse` is set. Links to folders are
-/// not followed.
-void TranslateFolder(const std::filesystem::path& sFolderPath, PageTranslator& pages, bool bRecurse);
+/// Translates the pages in a folder, those of its subfolders before its own when `bRecurse` is set.
+/// Links to folders are not followed.
+void TranslateFolder(const std::filesystem::path& sFolderPath, PageTranslator& pages,
+                     bool bRecurse);
 
 }  // namespace cvlang

@@ -5,7 +5,8 @@
 namespace cvlang {
 namespace {
 
-/// Whether CR and LF stand nowhere but side by side. Written so that the compiler looks at many characters at once.
+/// Whether CR and LF stand nowhere but side by side. Written so that the compiler looks at many
+/// characters at once.
 bool HasOnlyPairs(std::string_view page) {
     if (page.empty())
         return true;

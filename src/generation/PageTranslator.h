@@ -17,15 +17,16 @@ namespace cvlang {
 /// What the pages of one run share.
 class PageTranslator {
   public:
-    /// Language, base and application name the language's folder; the arrays are those of LoadTokens.
+    /// Language, base and application name the language's folder; the arrays are those of
+    /// LoadTokens.
     PageTranslator(Program& program, std::u16string_view sLanguage, std::u16string_view sBase,
                    std::u16string_view sApplication, const std::vector<std::u16string>& arrTokens,
                    const std::vector<std::u16string>& arrValues);
 
-    /// Reads a page, replaces its placeholders and writes it, as UTF-8 behind a byte-order mark, to the mirrored path in the
-    /// language's folder, which is the page itself when it lies there already. Values are escaped where they land in
-    /// script, unless the flag is false. A page that cannot be read leaves a line in the log, one that cannot be written
-    /// is not produced.
+    /// Reads a page, replaces its placeholders and writes it, as UTF-8 behind a byte-order mark, to
+    /// the mirrored path in the language's folder, which is the page itself when it lies there
+    /// already. Values are escaped where they land in script, unless the flag is false. A page that
+    /// cannot be read leaves a line in the log, one that cannot be written is not produced.
     void TranslateFile(const std::filesystem::path& sSourcePath, bool bScriptAware);
     /// The same for a file of a folder.
     void TranslateFile(const Folder& folder, const std::filesystem::path& name, bool bScriptAware);

@@ -29,7 +29,8 @@ std::size_t LineStart(std::string_view text, std::size_t from, std::size_t posit
     return end == std::string_view::npos ? from : from + end + 1;
 }
 
-/// Where the next bracket of either kind stands behind an open one; the text's end when there is none.
+/// Where the next bracket of either kind stands behind an open one; the text's end when there is
+/// none.
 std::size_t FindBracketBehind(std::string_view text, std::size_t open) {
     std::size_t from = open + 1;
     if (text.substr(open, kPlaceholderPrefix.size()) == kPlaceholderPrefix)
@@ -55,7 +56,8 @@ bool PlaceholderSubstitution::Translate(std::string_view page, ScriptMode mode,
     ScriptTracker script(text, mode);
     std::size_t position = 0;
     for (;;) {
-        // A line that became empty at the start of the output is dropped like one that was empty from the first.
+        // A line that became empty at the start of the output is dropped like one that was empty
+        // from the first.
         if (output.size() == outputStart)
             position = SkipBlankLines(text, position);
         const std::size_t start = FindPlaceholderLine(text, position);
@@ -73,8 +75,8 @@ bool PlaceholderSubstitution::Translate(std::string_view page, ScriptMode mode,
     return true;
 }
 
-/// Where the next line with a placeholder begins; npos when there is none. As long as all tokens are groups, what stands
-/// before the first bracket of a line does not matter and is left out.
+/// Where the next line with a placeholder begins; npos when there is none. As long as all tokens
+/// are groups, what stands before the first bracket of a line does not matter and is left out.
 std::size_t PlaceholderSubstitution::FindPlaceholderLine(std::string_view text,
                                                          std::size_t from) const {
     std::size_t firstBracket = std::string_view::npos;
@@ -97,7 +99,8 @@ void PlaceholderSubstitution::TranslateLine(const Line& line, std::string& outpu
     CountReplaced();
 }
 
-/// Appends the line with all its placeholders replaced in one go. False, and nothing appended, when the order matters.
+/// Appends the line with all its placeholders replaced in one go. False, and nothing appended, when
+/// the order matters.
 bool PlaceholderSubstitution::ReplaceAtOnce(const Line& line, std::string& output) {
     const std::size_t outputStart = output.size();
     const TokenNumber end = tokens_.UpperBound() + 1;
@@ -113,8 +116,8 @@ bool PlaceholderSubstitution::ReplaceAtOnce(const Line& line, std::string& outpu
     return true;
 }
 
-/// The line as it comes out of going through the tokens in order. Between two tokens whose place in the order matters,
-/// the others are replaced in one go.
+/// The line as it comes out of going through the tokens in order. Between two tokens whose place in
+/// the order matters, the others are replaced in one go.
 std::string PlaceholderSubstitution::ReplaceInOrder(const Line& line) {
     std::string text(line.text);
     TokenNumber done = 0;
@@ -141,8 +144,9 @@ std::string PlaceholderSubstitution::ReplaceInOrder(const Line& line) {
     return text;
 }
 
-/// Appends the text with each group replaced that is a token between `after` and `before` and whose place in the order
-/// does not matter. Returns the first token between them whose place does matter, or else `before`.
+/// Appends the text with each group replaced that is a token between `after` and `before` and whose
+/// place in the order does not matter. Returns the first token between them whose place does
+/// matter, or else `before`.
 TokenNumber PlaceholderSubstitution::ReplaceGroups(const Line& line, std::string_view text,
                                                    TokenNumber after, TokenNumber before,
                                                    std::string& output) {
@@ -225,7 +229,8 @@ void PlaceholderSubstitution::CountReplaced() {
     }
 }
 
-/// Every line contains the empty token, so that all of them up to the last token looked at count as replaced.
+/// Every line contains the empty token, so that all of them up to the last token looked at count as
+/// replaced.
 void PlaceholderSubstitution::CountEmptyTokensUpTo(TokenNumber last) {
     const auto& empty = tokens_.EmptyTokens();
     const auto lookedAt = std::upper_bound(empty.begin(), empty.end(), last) - empty.begin();

@@ -1,9 +1,10 @@
 // Replaces the placeholders of a page.
 //
-// What comes out is defined by a plain procedure: line by line, token by token in array order, every occurrence of the
-// token is replaced by its value, as long as the line still holds the beginning of a placeholder. Going through all tokens
-// for every line would take minutes for a large installation, so a line is read once and its placeholders are looked up.
-// That comes to the same wherever no replacement can make or break another placeholder; a line where one can is taken
+// What comes out is defined by a plain procedure: line by line, token by token in array order,
+// every occurrence of the token is replaced by its value, as long as the line still holds the
+// beginning of a placeholder. Going through all tokens for every line would take minutes for a
+// large installation, so a line is read once and its placeholders are looked up. That comes to the
+// same wherever no replacement can make or break another placeholder; a line where one can is taken
 // through its tokens in order. docs/architecture.md says why.
 #pragma once
 
@@ -19,13 +20,14 @@ namespace cvlang {
 
 class PlaceholderSubstitution {
   public:
-    /// `useCounts` has an element for each token at least; it grows by one for every line on which the token is replaced.
-    /// Both arguments must outlive the object.
+    /// `useCounts` has an element for each token at least; it grows by one for every line on which
+    /// the token is replaced. Both arguments must outlive the object.
     PlaceholderSubstitution(const TokenIndex& tokens, std::vector<std::int32_t>& useCounts);
 
-    /// Appends the page's text to `output`: placeholders replaced, lines ended by CR LF, without the blank lines at the
-    /// start and without the last line's end. False when the page holds a placeholder and there are more tokens than
-    /// can be numbered (32767); the output is then of no use.
+    /// Appends the page's text to `output`: placeholders replaced, lines ended by CR LF, without
+    /// the blank lines at the start and without the last line's end. False when the page holds a
+    /// placeholder and there are more tokens than can be numbered (32767); the output is then of no
+    /// use.
     bool Translate(std::string_view page, ScriptMode mode, std::string& output);
 
   private:

@@ -11,15 +11,16 @@ constexpr std::string_view kClosing = "</SCRIPT>";
 
 bool StartsWith(std::string_view text, std::string_view upperMarker) {
     return text.size() >= upperMarker.size() &&
-           std::equal(upperMarker.begin(), upperMarker.end(), text.begin(), [](char marker, char c) {
-               return marker == (c >= 'a' && c <= 'z' ? static_cast<char>(c - 0x20) : c);
-           });
+           std::equal(upperMarker.begin(), upperMarker.end(), text.begin(),
+                      [](char marker, char c) {
+                          return marker == (c >= 'a' && c <= 'z' ? static_cast<char>(c - 0x20) : c);
+                      });
 }
 
 constexpr std::size_t kLookAhead = 2;
 
-/// Whether "scr" stands at one of the `size` characters from `text`, behind which kLookAhead more can be read. Written so
-/// that the compiler looks at many characters at once.
+/// Whether "scr" stands at one of the `size` characters from `text`, behind which kLookAhead more
+/// can be read. Written so that the compiler looks at many characters at once.
 bool MayHoldMarker(const char* text, std::size_t size) {
     constexpr unsigned char kLower = 0x20;
     const auto* c = reinterpret_cast<const unsigned char*>(text);

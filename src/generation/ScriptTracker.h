@@ -16,8 +16,9 @@ class ScriptTracker {
     /// The page must outlive the tracker.
     ScriptTracker(std::string_view page, ScriptMode mode) : page_(page), mode_(mode) {}
 
-    /// Whether the line that ends at `lineEnd` is script: a line with "</SCRIPT>" is not, otherwise one with "<SCRIPT "
-    /// is, otherwise it is what the line before it was. Asked of lines in rising order; looks no further than it must.
+    /// Whether the line that ends at `lineEnd` is script: a line with "</SCRIPT>" is not, otherwise
+    /// one with "<SCRIPT " is, otherwise it is what the line before it was. Asked of lines in
+    /// rising order; looks no further than it must.
     bool IsScript(std::size_t lineEnd);
 
   private:

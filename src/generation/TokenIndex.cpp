@@ -11,7 +11,8 @@
 namespace cvlang {
 namespace {
 
-/// Eight bytes at a time. The last product spreads what differs, mostly a few letters, over the bits that are used.
+/// Eight bytes at a time. The last product spreads what differs, mostly a few letters, over the
+/// bits that are used.
 std::uint32_t Hash(std::string_view text) {
     constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15;
     std::uint64_t hash = text.size();
@@ -33,7 +34,9 @@ bool IsGroup(std::string_view token) {
            token.find(']') == token.size() - 1;
 }
 
-bool IsQuote(char c) { return c == '\'' || c == '"'; }
+bool IsQuote(char c) {
+    return c == '\'' || c == '"';
+}
 
 /// Room for all tokens and values at their longest.
 std::size_t MostBytes(const std::vector<std::u16string>& tokens,
@@ -80,8 +83,8 @@ void TokenIndex::Add(TokenNumber number, std::u16string_view token, std::u16stri
     if (ansi->empty()) {
         empty_.push_back(number);
     } else if (IsGroup(*ansi)) {
-        entry.dependsOnOrder = ansi->rfind(kPlaceholderPrefix, 0) != 0 ||
-                               encoded.find('[') != std::string::npos;
+        entry.dependsOnOrder =
+            ansi->rfind(kPlaceholderPrefix, 0) != 0 || encoded.find('[') != std::string::npos;
         AddGroup(number);
     } else {
         irregular_.push_back(number);

@@ -16,8 +16,8 @@ using TokenNumber = std::int32_t;
 
 class TokenIndex {
   public:
-    /// Both arrays begin with an unused element 0 and are equally long. Tokens are turned into ANSI bytes (one with a
-    /// character that the code page lacks is found nowhere), values into UTF-8.
+    /// Both arrays begin with an unused element 0 and are equally long. Tokens are turned into ANSI
+    /// bytes (one with a character that the code page lacks is found nowhere), values into UTF-8.
     TokenIndex(const std::vector<std::u16string>& arrTokens,
                const std::vector<std::u16string>& arrValues);
 
@@ -30,11 +30,13 @@ class TokenIndex {
     }
     /// Whether the value looks different inside a script.
     bool HasQuotes(TokenNumber number) const { return At(number).hasQuotes; }
-    /// Whether it matters in which order this token and others are replaced: its value may bring a placeholder of its
-    /// own, or it is no placeholder, which is replaced only while placeholders are left on the line.
+    /// Whether it matters in which order this token and others are replaced: its value may bring a
+    /// placeholder of its own, or it is no placeholder, which is replaced only while placeholders
+    /// are left on the line.
     bool DependsOnOrder(TokenNumber number) const { return At(number).dependsOnOrder; }
 
-    /// The first token behind `after` whose text is this group, a text from "[" to "]" without further brackets.
+    /// The first token behind `after` whose text is this group, a text from "[" to "]" without
+    /// further brackets.
     TokenNumber FindGroup(std::string_view group, TokenNumber after) const;
 
     /// Tokens that are not such a group, in order. They have to be searched for one by one.
@@ -43,7 +45,8 @@ class TokenIndex {
     const std::vector<TokenNumber>& EmptyTokens() const { return empty_; }
 
   private:
-    // Entries and slots are kept small: looking a placeholder up costs what it takes to fetch them from memory.
+    // Entries and slots are kept small: looking a placeholder up costs what it takes to fetch them
+    // from memory.
     struct Entry {
         std::size_t start = 0;  // of the token in text_; its value follows it
         std::uint32_t tokenLength = 0;

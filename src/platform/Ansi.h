@@ -7,7 +7,8 @@
 
 namespace cvlang {
 
-/// The UTF-16 text of ANSI bytes. Bytes that the code page leaves unassigned pass through by number.
+/// The UTF-16 text of ANSI bytes. Bytes that the code page leaves unassigned pass through by
+/// number.
 std::u16string AnsiToUtf16(std::string_view bytes);
 
 /// The ANSI bytes of a text; a character that the code page lacks becomes "?".

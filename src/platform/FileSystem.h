@@ -1,7 +1,8 @@
 // Files and folders, as far as Windows and Linux differ about them: attributes, letter case, links.
 //
-// What reads (ReadFile, EntryExists, ListFolder) finds an entry whose name differs only in letter case. What writes takes
-// the path exactly; pass it through FindExisting first where an entry may exist under another spelling.
+// What reads (ReadFile, EntryExists, ListFolder) finds an entry whose name differs only in letter
+// case. What writes takes the path exactly; pass it through FindExisting first where an entry may
+// exist under another spelling.
 #pragma once
 
 #include <filesystem>
@@ -13,8 +14,8 @@
 
 namespace cvlang {
 
-/// A folder that many files are read from or written to. They are then reached by their names alone, which spares the
-/// system going through the whole path each time.
+/// A folder that many files are read from or written to. They are then reached by their names
+/// alone, which spares the system going through the whole path each time.
 class Folder {
   public:
     /// The folder need not exist: what is done in it then fails.
@@ -75,14 +76,15 @@ bool EntryExists(const std::filesystem::path& path);
 bool RemoveFile(const Folder& folder, const std::filesystem::path& name);
 bool RemoveFile(const std::filesystem::path& path);
 
-/// Gives a file another name in the same folder. False when that name is taken, or when there is no such file.
+/// Gives a file another name in the same folder. False when that name is taken, or when there is no
+/// such file.
 bool RenameFile(const std::filesystem::path& from, const std::filesystem::path& to);
 
 /// Creates one folder. False when it exists already or cannot be created.
 bool CreateFolder(const std::filesystem::path& path);
 
-/// Takes away what keeps a file from being changed: read-only and archive on Windows; on Linux the owner gets the
-/// permission to write.
+/// Takes away what keeps a file from being changed: read-only and archive on Windows; on Linux the
+/// owner gets the permission to write.
 void ResetAttributes(const std::filesystem::path& path);
 
 enum class CopiedAttributes {
@@ -96,8 +98,9 @@ struct TargetName {
     bool exists;
 };
 
-/// Copies one file from a folder to another. An existing target is replaced, read-only or not, and a file copied onto
-/// itself stays as it is. A copy that cannot be completed is removed. False on failure.
+/// Copies one file from a folder to another. An existing target is replaced, read-only or not, and
+/// a file copied onto itself stays as it is. A copy that cannot be completed is removed. False on
+/// failure.
 bool CopyOneFile(const Folder& from, const std::filesystem::path& name, const Folder& to,
                  const TargetName& target, CopiedAttributes attributes);
 

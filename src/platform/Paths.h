@@ -1,4 +1,5 @@
-// File names: between the program's UTF-16 text and the system's paths, and found as Windows finds them.
+// File names: between the program's UTF-16 text and the system's paths, and found as Windows finds
+// them.
 #pragma once
 
 #include <filesystem>
@@ -17,12 +18,13 @@ std::filesystem::path PathFromText(std::u16string_view text);
 /// The UTF-16 text of a path.
 std::u16string TextFromPath(const std::filesystem::path& path);
 
-/// The path under which the entry that Windows would find stands on the disk: the exact name first, otherwise one
-/// that differs only in letter case, folder by folder. A path of which some part does not exist is returned with the
-/// names it was given from there on. On Windows the path itself.
+/// The path under which the entry that Windows would find stands on the disk: the exact name first,
+/// otherwise one that differs only in letter case, folder by folder. A path of which some part does
+/// not exist is returned with the names it was given from there on. On Windows the path itself.
 std::filesystem::path FindExisting(const std::filesystem::path& path);
 
-/// The folder that the running program's file lies in, without a separator at its end; empty when unknown.
+/// The folder that the running program's file lies in, without a separator at its end; empty when
+/// unknown.
 std::filesystem::path ExecutableFolder();
 
 }  // namespace cvlang

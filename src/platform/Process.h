@@ -6,8 +6,9 @@
 
 namespace cvlang {
 
-/// The command line after the program's own name. On Windows as the process received it; on Linux rebuilt from the
-/// arguments: joined by single blanks, an argument that is empty or holds a blank set in double quotes.
+/// The command line after the program's own name. On Windows as the process received it; on Linux
+/// rebuilt from the arguments: joined by single blanks, an argument that is empty or holds a blank
+/// set in double quotes.
 std::u16string CommandLineText(int argc, const char* const* argv);
 
 /// Writes one line to standard error.

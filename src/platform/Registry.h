@@ -20,8 +20,8 @@ class Registry {
     virtual std::int32_t ReadDword(std::u16string_view key, std::u16string_view name) const = 0;
 };
 
-/// The system's registry. On Linux a registry export file stands for it: the one that the environment variable
-/// CORVANE_REGISTRY names, otherwise /etc/corvane/registry.reg.
+/// The system's registry. On Linux a registry export file stands for it: the one that the
+/// environment variable CORVANE_REGISTRY names, otherwise /etc/corvane/registry.reg.
 std::unique_ptr<Registry> SystemRegistry();
 
 }  // namespace cvlang

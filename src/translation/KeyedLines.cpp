@@ -31,7 +31,8 @@ std::u16string WithNewValue(std::u16string_view text, std::u16string_view key,
     Lines<char16_t> lines(text);
     for (std::u16string_view line; lines.Next(line);) {
         const std::u16string_view field = SplitField(line, kTab, 1);
-        // Blanks behind the key count as part of it here and are kept, although a look-up does not find such a line.
+        // Blanks behind the key count as part of it here and are kept, although a look-up does not
+        // find such a line.
         if (WithoutTrailingBlanks(field) == key) {
             rewritten += KeyedLine(field, value);
             found = true;
@@ -56,8 +57,8 @@ void RewriteKeyedLine(const std::filesystem::path& target, const std::filesystem
             const std::filesystem::path copy = FindExisting(temporary);
             RemoveFile(copy);
             WriteUtf16File(copy, WithNewValue(original.Text(), key, value));
-            // Deleted before the copy is known to exist, and on purpose: readers never see two files, and every failure
-            // leaves the state that the mail server's own tools expect.
+            // Deleted before the copy is known to exist, and on purpose: readers never see two
+            // files, and every failure leaves the state that the mail server's own tools expect.
             RemoveFile(file);
             RenameFile(copy, file);
             break;

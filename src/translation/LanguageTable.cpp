@@ -16,8 +16,9 @@ struct Language {
     std::u16string_view abbreviation;
 };
 
-// The two tables differ on purpose: installed map files and folders are named by what each of them has always said.
-// Swedish is in the first alone; Turkish, Dutch and the misspelled Portuguese are in the second alone.
+// The two tables differ on purpose: installed map files and folders are named by what each of them
+// has always said. Swedish is in the first alone; Turkish, Dutch and the misspelled Portuguese are
+// in the second alone.
 constexpr Language kDefaultLanguages[] = {
     {u"Chinese", u"zh"},
     {u"Danish", u"dk"},
@@ -114,7 +115,8 @@ std::vector<std::u16string> LoadLanguageList(const Configuration& config,
     const std::filesystem::path file =
         GetLanguageListFilePath(config, currentApplication, BaseName);
     std::u16string list;
-    // A file that was just created is read once more; one that cannot be created leaves the list empty.
+    // A file that was just created is read once more; one that cannot be created leaves the list
+    // empty.
     if (!ReadLanguageList(file, list) && CreateLanguageList(file))
         ReadLanguageList(file, list);
     std::vector<std::u16string> names;

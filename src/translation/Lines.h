@@ -6,8 +6,8 @@
 
 namespace cvlang {
 
-/// Takes the lines of a text one after the other. CR LF, a bare LF and a bare CR end a line; a last line without an end
-/// counts; a text that ends with a line's end has no further, empty line.
+/// Takes the lines of a text one after the other. CR LF, a bare LF and a bare CR end a line; a last
+/// line without an end counts; a text that ends with a line's end has no further, empty line.
 template <typename Character>
 class Lines {
   public:
@@ -20,8 +20,8 @@ class Lines {
         if (rest_.empty())
             return false;
         const auto isEnd = [](Character c) { return c == '\r' || c == '\n'; };
-        const auto end = static_cast<std::size_t>(
-            std::find_if(rest_.begin(), rest_.end(), isEnd) - rest_.begin());
+        const auto end = static_cast<std::size_t>(std::find_if(rest_.begin(), rest_.end(), isEnd) -
+                                                  rest_.begin());
         line = rest_.substr(0, end);
         const bool pair = rest_.size() > end + 1 && rest_[end] == '\r' && rest_[end + 1] == '\n';
         rest_.remove_prefix(std::min(rest_.size(), end + (pair ? 2 : 1)));

@@ -1,5 +1,5 @@
-// The names of all files of the translation store. They lie directly in the application directory; application and base
-// are used exactly as they are listed.
+// The names of all files of the translation store. They lie directly in the application directory;
+// application and base are used exactly as they are listed.
 #pragma once
 
 #include <cstdint>

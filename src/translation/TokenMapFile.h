@@ -23,7 +23,8 @@ inline constexpr int kValueField = 2;
 inline constexpr int kReferenceTokenField = 4;
 inline constexpr int kReferenceValueField = 5;
 
-/// The token of a list entry such as "[CV_TXT-HELLO]: Hello"; a text of any other form is the token itself.
+/// The token of a list entry such as "[CV_TXT-HELLO]: Hello"; a text of any other form is the token
+/// itself.
 std::u16string_view NormaliseToken(std::u16string_view entry);
 
 /// The full path of the English map file of the selected application and base.
@@ -37,14 +38,15 @@ std::filesystem::path GetLanguageMapFilePath(const Configuration& config,
                                              std::u16string_view BaseName,
                                              std::u16string_view LangName);
 
-/// The value of a token, or of a list entry, in a language of the selected application; empty when the file cannot be
-/// opened or does not hold the token.
+/// The value of a token, or of a list entry, in a language of the selected application; empty when
+/// the file cannot be opened or does not hold the token.
 std::u16string GetTokenValue(const Configuration& config, std::u16string_view currentApplication,
                              std::u16string_view token, std::u16string_view BaseName,
                              std::u16string_view LangName);
 
-/// Loads a language's map file: line k goes to element k of both arrays, element 0 stays as it is, and both end at the
-/// last line. A file that cannot be opened or holds no line leaves them unchanged.
+/// Loads a language's map file: line k goes to element k of both arrays, element 0 stays as it is,
+/// and both end at the last line. A file that cannot be opened or holds no line leaves them
+/// unchanged.
 void LoadTokens(const Configuration& config, std::u16string_view ApplicationName,
                 std::u16string_view BaseName, std::u16string_view LangName,
                 std::vector<std::u16string>& arrTokens, std::vector<std::u16string>& arrValues);

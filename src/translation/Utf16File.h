@@ -1,4 +1,5 @@
-// The files of the translation store: UTF-16 little-endian behind the byte-order mark FF FE, lines ended by CR LF.
+// The files of the translation store: UTF-16 little-endian behind the byte-order mark FF FE, lines
+// ended by CR LF.
 #pragma once
 
 #include <filesystem>
@@ -17,7 +18,8 @@ class Utf16File {
     explicit Utf16File(const std::filesystem::path& path) : status_(ReadFile(path, content_)) {}
 
     FileStatus Status() const { return status_; }
-    /// The text without a byte-order mark, an odd last byte dropped. It lives as long as the object.
+    /// The text without a byte-order mark, an odd last byte dropped. It lives as long as the
+    /// object.
     std::u16string_view Text() const;
 
   private:

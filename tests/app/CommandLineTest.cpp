@@ -34,7 +34,8 @@ TEST(CommandLine, QuotedFieldsAreTakenByNumber) {
 }
 
 TEST(CommandLine, WithoutApplicationOrBaseTheArgumentsAreInvalid) {
-    for (const char16_t* line : {u"   ", u"WebMail", u"WebMail  default.net", u" WebMail default.net"}) {
+    for (const char16_t* line :
+         {u"   ", u"WebMail", u"WebMail  default.net", u" WebMail default.net"}) {
         FakeProgram fake;
         EXPECT_EQ(RunCommandLine(fake.program, line), ExitStatus::InvalidArguments);
         ASSERT_EQ(fake.messages.shown.size(), 1U);
@@ -51,7 +52,8 @@ TEST(CommandLine, AnEmptyLanguageIsPassedOn) {
     PutFile(fake.folder / "NETWebMail" / "default" / "lang" / "SYS" / "a.asp", "a");
     EXPECT_EQ(RunCommandLine(fake.program, u"WebMail default.net"), ExitStatus::Generated);
     EXPECT_EQ(FileBytes(fake.folder / "NETWebMail" / "default" / "lang" / "none" / "a.asp"),
-              "\xEF\xBB\xBF" "a");
+              "\xEF\xBB\xBF"
+              "a");
     EXPECT_TRUE(fake.messages.shown.empty());
     EXPECT_TRUE(fake.program.unattended);
 }

@@ -12,12 +12,10 @@ TEST(TextHelpers, SplitFieldTakesTheFieldOfThatNumberOrNothing) {
         int n;
         const char16_t* field;
     } cases[] = {
-        {u"a\tb\tc", u"\t", 1, u"a"},  {u"a\tb\tc", u"\t", 3, u"c"},
-        {u"a\tb\tc", u"\t", 4, u""},   {u"a\tb\tc", u"\t", 0, u""},
-        {u"a\tb\tc", u"\t", -1, u""},  {u"\t\t\tt\tv", u"\t", 4, u"t"},
-        {u"a--b", u"--", 2, u"b"},     {u"a---b", u"--", 2, u"-b"},
-        {u"aXbxc", u"x", 2, u"c"},     {u"", u"\t", 1, u""},
-        {u"whole", u"", 1, u"whole"},
+        {u"a\tb\tc", u"\t", 1, u"a"}, {u"a\tb\tc", u"\t", 3, u"c"}, {u"a\tb\tc", u"\t", 4, u""},
+        {u"a\tb\tc", u"\t", 0, u""},  {u"a\tb\tc", u"\t", -1, u""}, {u"\t\t\tt\tv", u"\t", 4, u"t"},
+        {u"a--b", u"--", 2, u"b"},    {u"a---b", u"--", 2, u"-b"},  {u"aXbxc", u"x", 2, u"c"},
+        {u"", u"\t", 1, u""},         {u"whole", u"", 1, u"whole"},
     };
     for (const auto& c : cases)
         EXPECT_EQ(SplitField(c.text, c.delimiter, c.n), c.field);
@@ -48,14 +46,17 @@ TEST(TextHelpers, ZeroPadFillsUpToTheWidth) {
 
 TEST(TextHelpers, AGuidIsWrittenWithItsShortBytes) {
     const auto guid = [] {
-        return std::optional(Guid{0xABC, 0x1, 0xFFFF, {0x00, 0x09, 0x0A, 0x0F, 0x10, 0x1E, 0xA0, 0xFF}});
+        return std::optional(
+            Guid{0xABC, 0x1, 0xFFFF, {0x00, 0x09, 0x0A, 0x0F, 0x10, 0x1E, 0xA0, 0xFF}});
     };
     EXPECT_EQ(CreateGuidString(guid), u"00000ABC0001FFFF0009AF101EA0FF");
     EXPECT_EQ(CreateGuidString([] { return std::optional<Guid>(); }), u"00000000");
     EXPECT_NE(CreateGuidString(), CreateGuidString());
 }
 
-TEST(TextHelpers, TheComputerHasAName) { EXPECT_NE(GetLocalComputerName(), u""); }
+TEST(TextHelpers, TheComputerHasAName) {
+    EXPECT_NE(GetLocalComputerName(), u"");
+}
 
 }  // namespace
 }  // namespace cvlang

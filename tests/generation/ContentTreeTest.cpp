@@ -15,7 +15,8 @@ constexpr char kMark[] = "\xEF\xBB\xBF";
 class ContentTree : public testing::Test {
   protected:
     ContentTree() {
-        PutFile(fake.folder / "WebMail-default.net-lang.txt", "French\tfr\r\nEmpty\t\r\nOwn\ten\r\n");
+        PutFile(fake.folder / "WebMail-default.net-lang.txt",
+                "French\tfr\r\nEmpty\t\r\nOwn\ten\r\n");
         PutFile(fake.folder / "WebMail-default.net-tokens-fr.map",
                 Utf16Bytes(u"[CV_TXT-A]\tvaleur\r\n[CV_TXT-B]\tb\r\n"));
     }
@@ -31,7 +32,8 @@ class ContentTree : public testing::Test {
 TEST_F(ContentTree, PagesOfAllKindsAreTranslatedAtAnyDepthAndOtherFilesCopied) {
     const std::string source = "\r\n[CV_TXT-A] [CV_TXT-NONE]\r\n";
     const std::string translated = std::string(kMark) + "valeur [CV_TXT-NONE]";
-    const char* pages[] = {"a.asp", "Default.aspx", "c.ASCX", "s.Js", "m.xml", "in/deep/d.asp", ".asp"};
+    const char* pages[] = {"a.asp", "Default.aspx",  "c.ASCX", "s.Js",
+                           "m.xml", "in/deep/d.asp", ".asp"};
     const char* others[] = {"web.config", "x.asp.bak", "logo.gif", "in/aspx", "in/x.jsp"};
     for (const char* name : pages)
         PutFile(lang / "SYS" / name, source);

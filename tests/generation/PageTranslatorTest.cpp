@@ -37,9 +37,11 @@ TEST(PageTranslator, OnlyAScriptFileIsScriptThroughoutAndOnlyWhenAskedFor) {
     FakeProgram fake;
     const std::string plain = std::string(kMark) + "l'\xC3\xA9t\xC3\xA9";
     const std::string escaped = std::string(kMark) + "l\\'\xC3\xA9t\xC3\xA9";
-    for (const auto& [name, aware, expected] :
-         {std::tuple{"x.js", true, escaped}, {"X.Js", true, escaped}, {"x.js", false, plain},
-          {"x.asp", true, plain}, {"xjs", true, plain}}) {
+    for (const auto& [name, aware, expected] : {std::tuple{"x.js", true, escaped},
+                                                {"X.Js", true, escaped},
+                                                {"x.js", false, plain},
+                                                {"x.asp", true, plain},
+                                                {"xjs", true, plain}}) {
         PutFile(fake.folder / name, "[CV_TXT-TIME]");
         Translate(fake, fake.folder / name, aware);
         EXPECT_EQ(FileBytes(fake.folder / name), expected) << name;
@@ -80,8 +82,9 @@ TEST(PageTranslator, APageThatCannotBeReadLeavesALineInTheLog) {
     FakeProgram fake;
     const fs::path page = fake.folder / "none.asp";
     Translate(fake, page);
-    EXPECT_NE(fake.ErrorLog().find("\tError - could not find asp source: " + page.string() + "\r\n"),
-              std::string::npos);
+    EXPECT_NE(
+        fake.ErrorLog().find("\tError - could not find asp source: " + page.string() + "\r\n"),
+        std::string::npos);
     EXPECT_FALSE(fs::exists(page));
     // Nor does a log that cannot be written end anything.
     fs::remove(fake.folder / "LangPort.log");

@@ -72,7 +72,8 @@ TEST(PlaceholderSubstitution, ValuesAreEscapedOnScriptLinesOnly) {
         {"x\r\n</script\r\n<script\r\n", ScriptMode::Tracked, false},
     };
     for (const auto& [before, mode, isEscaped] : cases) {
-        const std::string text = Substitute(before + "[CV_TXT-A]", Texts(tokens), values, mode).text;
+        const std::string text =
+            Substitute(before + "[CV_TXT-A]", Texts(tokens), values, mode).text;
         EXPECT_EQ(text, before + (isEscaped ? escaped : plain));
     }
 }
@@ -86,8 +87,9 @@ TEST(PlaceholderSubstitution, MoreTokensThanCanBeNumberedEndAPageAtItsFirstPlace
     }
 }
 
-/// Tokens and pages from few letters, so that they meet in every way: tokens within tokens, values that bring or complete
-/// placeholders, brackets left open, empty and repeated tokens, tokens of any other form.
+/// Tokens and pages from few letters, so that they meet in every way: tokens within tokens, values
+/// that bring or complete placeholders, brackets left open, empty and repeated tokens, tokens of
+/// any other form.
 class RandomInput {
   public:
     explicit RandomInput(unsigned seed) : random_(seed) {}
@@ -103,8 +105,9 @@ class RandomInput {
     }
 
     std::u16string Token(bool tame) {
-        static const std::u16string pieces[] = {u"A",  u"B", u"[", u"]", u"[CV_TXT-", u"[CV_TXT-A]",
-                                                u"TXT-", u"é", u"\u3042", u"[CV_IMG-A]", u"'"};
+        static const std::u16string pieces[] = {u"A",        u"B",          u"[",    u"]",
+                                                u"[CV_TXT-", u"[CV_TXT-A]", u"TXT-", u"é",
+                                                u"\u3042",   u"[CV_IMG-A]", u"'"};
         static const std::u16string names[] = {u"A", u"B", u"AB", u"é", u"\u3042"};
         const std::size_t kind = Below(tame ? 6 : 10);
         if (kind < 6)
@@ -113,8 +116,9 @@ class RandomInput {
     }
 
     std::u16string Value(bool tame) {
-        static const std::u16string pieces[] = {u"x", u"é'", u"\"", u"\xD800", u"]", u"A]", u"TXT-A",
-                                                u"[", u"[CV_TXT-A]", u"[CV_TXT-B]", u"CV_TXT-A"};
+        static const std::u16string pieces[] = {u"x",          u"é'",         u"\"",      u"\xD800",
+                                                u"]",          u"A]",         u"TXT-A",   u"[",
+                                                u"[CV_TXT-A]", u"[CV_TXT-B]", u"CV_TXT-A"};
         std::u16string value = Join(pieces, 3);
         while (tame && value.find(u'[') != value.npos)
             value = Join(pieces, 3);
@@ -123,9 +127,12 @@ class RandomInput {
 
     std::string Page() {
         static const std::string pieces[] = {
-            "[CV_TXT-A]", "[CV_TXT-B]", "[CV_TXT-AB]", "[CV_TXT-\xE9]", "[CV_TXT-", "[CV_IMG-A]",
-            "[CV_", "[", "]", "A", "TXT-A", "\r\n", "\r\n", "\n", "\r", " ", "<script x>", "</SCRIPT>",
-            "\xC3\xA9", "\xEF\xBB\xBF", "'"};
+            "[CV_TXT-A]", "[CV_TXT-B]", "[CV_TXT-AB]", "[CV_TXT-\xE9]",
+            "[CV_TXT-",   "[CV_IMG-A]", "[CV_",        "[",
+            "]",          "A",          "TXT-A",       "\r\n",
+            "\r\n",       "\n",         "\r",          " ",
+            "<script x>", "</SCRIPT>",  "\xC3\xA9",    "\xEF\xBB\xBF",
+            "'"};
         return Join(pieces, 24);
     }
 

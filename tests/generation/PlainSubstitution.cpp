@@ -23,7 +23,8 @@ std::string Encode(const std::u16string& value) {
 }
 
 void ReplaceAll(std::string& text, const std::string& what, const std::string& by) {
-    for (std::size_t i = text.find(what); i != std::string::npos; i = text.find(what, i + by.size()))
+    for (std::size_t i = text.find(what); i != std::string::npos;
+         i = text.find(what, i + by.size()))
         text.replace(i, what.size(), by);
 }
 

@@ -1,4 +1,5 @@
-// What substitution means, written down plainly: line by line, token by token. The product's is compared with it.
+// What substitution means, written down plainly: line by line, token by token. The product's is
+// compared with it.
 #pragma once
 
 #include <cstdint>

@@ -90,8 +90,7 @@ TEST(FileSystem, LargeFilesAreCopiedWhole) {
     for (const std::size_t size : {std::size_t{65536}, std::size_t{131072}, bytes.size()}) {
         PutFile(folder / "large", std::string_view(bytes).substr(0, size));
         const Folder place(folder.Path());
-        EXPECT_TRUE(
-            CopyOneFile(place, "large", place, {"copy", true}, CopiedAttributes::Kept));
+        EXPECT_TRUE(CopyOneFile(place, "large", place, {"copy", true}, CopiedAttributes::Kept));
         EXPECT_EQ(FileBytes(folder / "copy"), bytes.substr(0, size));
     }
 }

@@ -1,4 +1,5 @@
-// The program's surroundings in a test: settings in memory, a fixed time, recorded messages, real files.
+// The program's surroundings in a test: settings in memory, a fixed time, recorded messages, real
+// files.
 #pragma once
 
 #include <map>

@@ -28,7 +28,9 @@ CurrentFolder::CurrentFolder(const fs::path& folder) : before_(fs::current_path(
     fs::current_path(folder);
 }
 
-CurrentFolder::~CurrentFolder() { fs::current_path(before_); }
+CurrentFolder::~CurrentFolder() {
+    fs::current_path(before_);
+}
 
 void PutFile(const fs::path& path, std::string_view bytes) {
     fs::create_directories(path.parent_path());
@@ -51,7 +53,8 @@ std::string Utf16Bytes(std::u16string_view text) {
 }
 
 void SetReadOnly(const fs::path& path, bool readOnly) {
-    constexpr auto kWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    constexpr auto kWrite =
+        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
     fs::permissions(path, kWrite, readOnly ? fs::perm_options::remove : fs::perm_options::add);
 }
 

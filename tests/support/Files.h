@@ -7,7 +7,8 @@
 
 namespace cvlang {
 
-/// A fresh folder below the system's temporary one, removed with all that is in it when the test ends.
+/// A fresh folder below the system's temporary one, removed with all that is in it when the test
+/// ends.
 class TemporaryFolder {
   public:
     TemporaryFolder();

@@ -19,16 +19,26 @@ TEST(LanguageTable, TheBuiltInAbbreviationsServeWithoutAListFile) {
         const char16_t* name;
         const char16_t* abbreviation;
     } cases[] = {
-        {u"Chinese", u"zh"},      {u"ENGLISH", u"en"},
-        {u"french", u"fr"},       {u"German", u"de"},
-        {u"Italian", u"it"},      {u"Japanese", u"ja"},
-        {u"Korean", u"ko"},       {u"Portuguese", u"pt"},
-        {u"portugese", u"pt"},    {u"Brazilian Portuguese", u"pt-BR"},
-        {u"Brazilian PORTUGESE", u"pt-BR"}, {u"Polish", u"pl"},
-        {u"Spanish", u"es"},      {u"Danish", u"dk"},
-        {u"Turkish", u"tr"},      {u"Dutch", u"nl"},
-        {u"Swedish", u""},        {u"Klingon", u""},
-        {u"", u""},               {u"French ", u""},
+        {u"Chinese", u"zh"},
+        {u"ENGLISH", u"en"},
+        {u"french", u"fr"},
+        {u"German", u"de"},
+        {u"Italian", u"it"},
+        {u"Japanese", u"ja"},
+        {u"Korean", u"ko"},
+        {u"Portuguese", u"pt"},
+        {u"portugese", u"pt"},
+        {u"Brazilian Portuguese", u"pt-BR"},
+        {u"Brazilian PORTUGESE", u"pt-BR"},
+        {u"Polish", u"pl"},
+        {u"Spanish", u"es"},
+        {u"Danish", u"dk"},
+        {u"Turkish", u"tr"},
+        {u"Dutch", u"nl"},
+        {u"Swedish", u""},
+        {u"Klingon", u""},
+        {u"", u""},
+        {u"French ", u""},
     };
     for (const auto& [name, abbreviation] : cases)
         EXPECT_EQ(GetLanguageAbbreviation(fake.config, u"WebMail", name, u"default"), abbreviation);
@@ -37,7 +47,8 @@ TEST(LanguageTable, TheBuiltInAbbreviationsServeWithoutAListFile) {
 TEST(LanguageTable, AListFileIsTheOnlySourceOfItsBasesAbbreviations) {
     const FakeProgram fake;
     PutFile(fake.folder / "WebMail-default-lang.txt",
-            "Fran\xE7" "ais\tfr-CA\r\nFrench\tfr\nFRENCH\tother\rNo abbreviation");
+            "Fran\xE7"
+            "ais\tfr-CA\r\nFrench\tfr\nFRENCH\tother\rNo abbreviation");
     const auto abbreviation = [&fake](std::u16string_view name, std::u16string_view base) {
         return GetLanguageAbbreviation(fake.config, u"WebMail", name, base);
     };

@@ -23,7 +23,8 @@ TEST(MapFilePaths, AreBuiltForBothGenerations) {
     }
     EXPECT_EQ(LanguageTableFile(u"dir"), in("LANGUAGES.TAB"));
     EXPECT_EQ(TemporaryLanguageTableFile(u"dir"), in("_LANGUAGES.TAB"));
-    EXPECT_EQ(TextFromPath(LanguageTableFile(u"")), std::u16string(1, kSeparator) + u"LANGUAGES.TAB");
+    EXPECT_EQ(TextFromPath(LanguageTableFile(u"")),
+              std::u16string(1, kSeparator) + u"LANGUAGES.TAB");
 }
 
 }  // namespace

@@ -27,16 +27,18 @@ TEST(TokenMapFile, AListEntryIsCutBehindItsTokenAndNothingElseIs) {
 
 TEST(TokenMapFile, ALookUpTakesTheFirstLineWithExactlyThatToken) {
     const FakeProgram fake;
-    PutFile(fake.folder / "WebMail-default-tokens-fr.map",
-            Utf16Bytes(u"[CV_TXT-HELLO] \tblank\r\n[CV_TXT-hello]\tcase\r\n"
-                       u"[CV_TXT-HELLO]\tBonjour\tmore\r\n[CV_TXT-HELLO]\tsecond\r\n[CV_TXT-NONE]"));
+    PutFile(
+        fake.folder / "WebMail-default-tokens-fr.map",
+        Utf16Bytes(u"[CV_TXT-HELLO] \tblank\r\n[CV_TXT-hello]\tcase\r\n"
+                   u"[CV_TXT-HELLO]\tBonjour\tmore\r\n[CV_TXT-HELLO]\tsecond\r\n[CV_TXT-NONE]"));
     const auto value = [&fake](std::u16string_view token) {
         return GetTokenValue(fake.config, u"WebMail", token, u"default", u"French");
     };
     EXPECT_EQ(value(u"[CV_TXT-HELLO]: Hello"), u"Bonjour");
     EXPECT_EQ(value(u"[CV_TXT-NONE]"), u"");
     EXPECT_EQ(value(u"[CV_TXT-OTHER]"), u"");
-    EXPECT_EQ(GetTokenValue(fake.config, u"WebMail", u"[CV_TXT-HELLO]", u"default", u"German"), u"");
+    EXPECT_EQ(GetTokenValue(fake.config, u"WebMail", u"[CV_TXT-HELLO]", u"default", u"German"),
+              u"");
 }
 
 TEST(TokenMapFile, LinesAreLoadedAtTheirNumbersWhateverTheArraysHeld) {

@@ -14,7 +14,8 @@ class DirectoryEntries {
     /// Reads the folder's names once; a folder that cannot be read has none.
     explicit DirectoryEntries(const std::filesystem::path& folder);
 
-    /// The entry's name as it stands on the disk: the exact one, otherwise one that differs only in case.
+    /// The entry's name as it stands on the disk: the exact one, otherwise one that differs only in
+    /// case.
     std::optional<std::string> Find(const std::string& name) const;
 
   private:

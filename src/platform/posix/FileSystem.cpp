@@ -41,7 +41,9 @@ class Descriptor {
     int number_;
 };
 
-std::error_code LastError() { return {errno, std::generic_category()}; }
+std::error_code LastError() {
+    return {errno, std::generic_category()};
+}
 
 /// A file's place: a directory and the name in it, or a whole path.
 struct Place {
@@ -60,7 +62,6 @@ int Open(const Place& place, int flags, mode_t mode = kNewFileMode) {
 bool Remove(const Place& place) {
     return unlinkat(place.directory, place.name, 0) == 0 || errno == ENOENT;
 }
-
 
 /// Reads up to `size` bytes; a negative number on failure. A signal does not end it.
 ssize_t Read(const Descriptor& file, char* to, std::size_t size) {
@@ -83,7 +84,9 @@ bool WriteAll(const Descriptor& file, std::string_view bytes) {
     return true;
 }
 
-bool IsReadOnly(const struct stat& status) { return (status.st_mode & S_IWUSR) == 0; }
+bool IsReadOnly(const struct stat& status) {
+    return (status.st_mode & S_IWUSR) == 0;
+}
 
 bool IsSameFile(const struct stat& a, const struct stat& b) {
     return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
@@ -107,7 +110,9 @@ int OpenExisting(const Folder& folder, const fs::path& name) {
     return Open(Place(FindExisting(folder.Path() / name)), O_RDONLY);
 }
 
-fs::path FolderOf(const fs::path& path) { return path.has_parent_path() ? path.parent_path() : "."; }
+fs::path FolderOf(const fs::path& path) {
+    return path.has_parent_path() ? path.parent_path() : ".";
+}
 
 bool Write(const Place& place, std::string_view bytes) {
     Descriptor file(Open(place, O_WRONLY | O_CREAT | O_TRUNC));
@@ -133,8 +138,9 @@ bool CopyBytes(const Descriptor& from, const Descriptor& to, off_t size) {
     }
 }
 
-/// Makes way for a copy. Truncating instead would have ext4 write the file to the disk at once, a hundred times slower.
-/// False when nothing must be written, because the target is the file to be copied.
+/// Makes way for a copy. Truncating instead would have ext4 write the file to the disk at once, a
+/// hundred times slower. False when nothing must be written, because the target is the file to be
+/// copied.
 bool MakeWay(const Place& to, const struct stat& original) {
     struct stat existing {};
     if (Remove(to) || fstatat(to.directory, to.name, &existing, 0) != 0)
@@ -220,7 +226,9 @@ bool WriteFile(const Folder& folder, const fs::path& name, std::string_view byte
     return Write({folder, name}, bytes);
 }
 
-bool WriteFile(const fs::path& path, std::string_view bytes) { return Write(Place(path), bytes); }
+bool WriteFile(const fs::path& path, std::string_view bytes) {
+    return Write(Place(path), bytes);
+}
 
 std::error_code AppendToFile(const fs::path& path, std::string_view bytes) {
     Descriptor file(Open(Place(path), O_WRONLY | O_CREAT | O_APPEND));
@@ -234,9 +242,13 @@ bool EntryExists(const fs::path& path) {
     return fs::exists(FindExisting(path), ignored);
 }
 
-bool RemoveFile(const Folder& folder, const fs::path& name) { return Remove({folder, name}); }
+bool RemoveFile(const Folder& folder, const fs::path& name) {
+    return Remove({folder, name});
+}
 
-bool RemoveFile(const fs::path& path) { return Remove(Place(path)); }
+bool RemoveFile(const fs::path& path) {
+    return Remove(Place(path));
+}
 
 bool RenameFile(const fs::path& from, const fs::path& to) {
     if (IsFolder(from))
@@ -250,7 +262,9 @@ bool RenameFile(const fs::path& from, const fs::path& to) {
     return lstat(to.c_str(), &taken) != 0 && rename(from.c_str(), to.c_str()) == 0;
 }
 
-bool CreateFolder(const fs::path& path) { return mkdir(path.c_str(), 0777) == 0; }
+bool CreateFolder(const fs::path& path) {
+    return mkdir(path.c_str(), 0777) == 0;
+}
 
 void ResetAttributes(const fs::path& path) {
     struct stat status {};

@@ -15,7 +15,9 @@ bool EntryExists(const std::filesystem::path& path) {
 
 }  // namespace
 
-std::filesystem::path PathFromText(std::u16string_view text) { return Utf16ToUtf8(text); }
+std::filesystem::path PathFromText(std::u16string_view text) {
+    return Utf16ToUtf8(text);
+}
 
 std::u16string TextFromPath(const std::filesystem::path& path) {
     return Utf8ToUtf16(path.native());

@@ -50,7 +50,8 @@ std::u16string_view TakeLine(std::u16string_view& text) {
     return Trim(line);
 }
 
-/// Takes the next line and those that continue it. Only bytes in hexadecimal are continued: a string may end in "\".
+/// Takes the next line and those that continue it. Only bytes in hexadecimal are continued: a
+/// string may end in "\".
 std::u16string TakeEntry(std::u16string_view& text) {
     std::u16string entry(TakeLine(text));
     const bool hasBytes = entry.rfind(u'"', 0) == 0 && entry.find(u"=hex") != std::u16string::npos;
@@ -160,7 +161,8 @@ class Section {
     bool Enter(std::u16string_view line) {
         const std::u16string key = ToUpper(line.substr(1, line.size() - 2));
         isWanted_ = key == wanted_;
-        return key.size() > 1 && key[0] == u'-' && (wanted_ + u'\\').rfind(key.substr(1) + u'\\', 0) == 0;
+        return key.size() > 1 && key[0] == u'-' &&
+               (wanted_ + u'\\').rfind(key.substr(1) + u'\\', 0) == 0;
     }
 
   private:
@@ -169,7 +171,8 @@ class Section {
 };
 
 /// Takes a line "name"=data; nothing when it is malformed or names another value.
-std::optional<RegistryValue> ParseEntry(std::u16string_view entry, const std::u16string& upperName) {
+std::optional<RegistryValue> ParseEntry(std::u16string_view entry,
+                                        const std::u16string& upperName) {
     const auto name = TakeQuoted(entry);
     if (!name || ToUpper(*name) != upperName)
         return std::nullopt;

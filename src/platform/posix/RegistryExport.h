@@ -1,15 +1,16 @@
-// The registry export format ("Windows Registry Editor Version 5.00"), of which HKEY_LOCAL_MACHINE is looked at.
+// The registry export format ("Windows Registry Editor Version 5.00"), of which HKEY_LOCAL_MACHINE
+// is looked at.
 //
 //   [HKEY_LOCAL_MACHINE\SOFTWARE\...]   a key; [-HKEY_...] takes it and what lies below it away
-//   "name"="text"                       a string; \\ and \" stand for a backslash and a quotation mark
-//   "name"=dword:0000002a               a number
-//   "name"=hex(2):61,00,\               any kind by its bytes, here 2, an expandable string in UTF-16;
+//   "name"="text"                       a string; \\ and \" stand for a backslash and a quotation
+//   mark "name"=dword:0000002a               a number "name"=hex(2):61,00,\               any kind
+//   by its bytes, here 2, an expandable string in UTF-16;
 //     00,00                             a backslash at a line's end continues it
 //   "name"=-                            takes the value away
 //   ; comment
 //
-// Later lines win over earlier ones, letter case does not matter in keys and names, and a line of any other form is
-// passed over.
+// Later lines win over earlier ones, letter case does not matter in keys and names, and a line of
+// any other form is passed over.
 #pragma once
 
 #include <cstdint>
@@ -19,14 +20,15 @@
 
 namespace cvlang {
 
-/// A value as far as this program uses its kind; neither part is set for a missing value or one of another kind.
+/// A value as far as this program uses its kind; neither part is set for a missing value or one of
+/// another kind.
 struct RegistryValue {
     std::optional<std::u16string> text;
     std::optional<std::int32_t> number;
 };
 
-/// Looks a value up in the bytes of an export file, UTF-16 little-endian or UTF-8 with or without byte-order mark. The
-/// key is given without "HKEY_LOCAL_MACHINE\".
+/// Looks a value up in the bytes of an export file, UTF-16 little-endian or UTF-8 with or without
+/// byte-order mark. The key is given without "HKEY_LOCAL_MACHINE\".
 RegistryValue FindInRegistryExport(std::string_view file, std::u16string_view key,
                                    std::u16string_view name);
 

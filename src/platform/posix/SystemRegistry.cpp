@@ -33,6 +33,8 @@ class RegistryFromFile : public Registry {
 
 }  // namespace
 
-std::unique_ptr<Registry> SystemRegistry() { return std::make_unique<RegistryFromFile>(); }
+std::unique_ptr<Registry> SystemRegistry() {
+    return std::make_unique<RegistryFromFile>();
+}
 
 }  // namespace cvlang

@@ -15,12 +15,13 @@ std::u16string TextFromPath(const std::filesystem::path& path) {
     return {path.native().begin(), path.native().end()};
 }
 
-std::filesystem::path FindExisting(const std::filesystem::path& path) { return path; }
+std::filesystem::path FindExisting(const std::filesystem::path& path) {
+    return path;
+}
 
 std::filesystem::path ExecutableFolder() {
     std::wstring file(32768, L'\0');
-    const DWORD length =
-        GetModuleFileNameW(nullptr, file.data(), static_cast<DWORD>(file.size()));
+    const DWORD length = GetModuleFileNameW(nullptr, file.data(), static_cast<DWORD>(file.size()));
     file.resize(length);
     return std::filesystem::path(file).parent_path();
 }

@@ -1,7 +1,7 @@
 #include "platform/SystemInformation.h"
 
-#include <windows.h>
 #include <objbase.h>
+#include <windows.h>
 
 #include <algorithm>
 #include <array>

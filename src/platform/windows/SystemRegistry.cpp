@@ -20,7 +20,8 @@ class RegistryKey {
             RegCloseKey(handle_);
     }
 
-    /// False when the key or the value is missing. Data may be null, to learn the type and the size alone.
+    /// False when the key or the value is missing. Data may be null, to learn the type and the size
+    /// alone.
     bool Query(const std::string& name, DWORD& type, void* data, DWORD& size) const {
         return handle_ != nullptr &&
                RegQueryValueExA(handle_, name.c_str(), nullptr, &type, static_cast<BYTE*>(data),
@@ -61,6 +62,8 @@ class WindowsRegistry : public Registry {
 
 }  // namespace
 
-std::unique_ptr<Registry> SystemRegistry() { return std::make_unique<WindowsRegistry>(); }
+std::unique_ptr<Registry> SystemRegistry() {
+    return std::make_unique<WindowsRegistry>();
+}
 
 }  // namespace cvlang

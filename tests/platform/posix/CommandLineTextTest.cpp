@@ -18,7 +18,10 @@ TEST(CommandLineText, IsRebuiltFromTheArguments) {
          u"WebMail default.net \"Brazilian Portuguese\""},
         {{"program", "WebMail", "", "x"}, u"WebMail \"\" x"},
         {{"program", ""}, u"\"\""},
-        {{"program", "fran\xC3\xA7" "ais"}, u"fran\u00E7ais"},
+        {{"program",
+          "fran\xC3\xA7"
+          "ais"},
+         u"fran\u00E7ais"},
     };
     for (const auto& [arguments, text] : cases)
         EXPECT_EQ(CommandLineText(static_cast<int>(arguments.size()), arguments.data()), text);

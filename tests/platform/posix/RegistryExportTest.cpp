@@ -17,7 +17,9 @@ std::string InKey(const std::string& lines) {
            lines + "\r\n";
 }
 
-RegistryValue Value(const std::string& file) { return FindInRegistryExport(file, kKey, u"Value"); }
+RegistryValue Value(const std::string& file) {
+    return FindInRegistryExport(file, kKey, u"Value");
+}
 
 TEST(RegistryExport, StringsAreReadWithTheirEscapesAndOtherKindsAreNoText) {
     const struct {
@@ -30,7 +32,8 @@ TEST(RegistryExport, StringsAreReadWithTheirEscapesAndOtherKindsAreNoText) {
         {R"(  "value" = "blanks around"  )", u"blanks around"},
         {"\"Value\"=\"\xC3\xA9t\xC3\xA9\"", u"\u00E9t\u00E9"},
         {R"("Value"=hex(2):41,00,42,\
-  00,00,00)", u"AB"},
+  00,00,00)",
+         u"AB"},
         {R"("Value"=hex(1):41,00)", u"A"},
         {R"("Value"=hex:41,00,00,00)", std::nullopt},
         {R"("Value"=hex(7):41,00,00,00,00,00)", std::nullopt},
@@ -42,16 +45,21 @@ TEST(RegistryExport, StringsAreReadWithTheirEscapesAndOtherKindsAreNoText) {
         {R"("Value"=)", std::nullopt},
         {R"(;"Value"="comment")", std::nullopt},
         {R"("Value"="first"
-"Value"="second")", u"second"},
+"Value"="second")",
+         u"second"},
         {R"("Value"="first"
-"Value"=nonsense)", u"first"},
+"Value"=nonsense)",
+         u"first"},
         {R"("Value"="first"
-"Value"=-)", std::nullopt},
+"Value"=-)",
+         std::nullopt},
         {R"("Value"="first"
-[-HKEY_LOCAL_MACHINE\SOFTWARE\corvane])", std::nullopt},
+[-HKEY_LOCAL_MACHINE\SOFTWARE\corvane])",
+         std::nullopt},
         {R"("Value"="first"
 [HKEY_CURRENT_USER\SOFTWARE\Corvane\Corvane]
-"Value"="other")", u"first"},
+"Value"="other")",
+         u"first"},
     };
     for (const auto& [line, text] : cases)
         EXPECT_EQ(Value(InKey(line)).text, text) << line;
@@ -62,12 +70,18 @@ TEST(RegistryExport, NumbersAreDwordsOnly) {
         const char* data;
         std::optional<std::int32_t> number;
     } cases[] = {
-        {"dword:00000002", 2},         {"dword:2", 2},
-        {"dword:ffffffff", -1},        {"hex(4):02,01,00,00", 258},
-        {"hex(5):00,00,00,02", {}},    {"hex(4):02,00", {}},
-        {"hex(b):02,00,00,00,00,00,00,00", {}}, {"\"2\"", {}},
-        {"dword:", {}},                {"dword:000000002", {}},
-        {"dword:0000000g", {}},        {"hex(4:02,00,00,00", {}},
+        {"dword:00000002", 2},
+        {"dword:2", 2},
+        {"dword:ffffffff", -1},
+        {"hex(4):02,01,00,00", 258},
+        {"hex(5):00,00,00,02", {}},
+        {"hex(4):02,00", {}},
+        {"hex(b):02,00,00,00,00,00,00,00", {}},
+        {"\"2\"", {}},
+        {"dword:", {}},
+        {"dword:000000002", {}},
+        {"dword:0000000g", {}},
+        {"hex(4:02,00,00,00", {}},
         {"hex(4):2,,0,0", {}},
     };
     for (const auto& [data, number] : cases)
@@ -76,7 +90,8 @@ TEST(RegistryExport, NumbersAreDwordsOnly) {
 
 TEST(RegistryExport, TheFileMayBeUtf16OrUtf8WithAMarkOrWithout) {
     const std::string utf16 = Utf16Bytes(
-        u"Windows Registry Editor Version 5.00\r\n[HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\Corvane]\r\n"
+        u"Windows Registry Editor Version "
+        u"5.00\r\n[HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\Corvane]\r\n"
         u"\"Value\"=\"\u3042\"\r\n");
     EXPECT_EQ(Value(utf16).text, u"\u3042");
     EXPECT_EQ(Value(utf16.substr(2)).text, u"\u3042");

@@ -13,7 +13,8 @@ constexpr char kKey[] = "SOFTWARE\\Corvane\\Corvane";
 StoredSettings::StoredSettings(const std::filesystem::path&,
                                const std::filesystem::path& installation) {
     HKEY key = nullptr;
-    RegCreateKeyExA(HKEY_LOCAL_MACHINE, kKey, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr);
+    RegCreateKeyExA(HKEY_LOCAL_MACHINE, kKey, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key,
+                    nullptr);
     const std::string directory = installation.string();
     RegSetValueExA(key, "Application Directory", 0, REG_SZ,
                    reinterpret_cast<const BYTE*>(directory.c_str()),
@@ -24,8 +25,12 @@ StoredSettings::StoredSettings(const std::filesystem::path&,
     RegCloseKey(key);
 }
 
-StoredSettings::~StoredSettings() { RegDeleteKeyA(HKEY_LOCAL_MACHINE, kKey); }
+StoredSettings::~StoredSettings() {
+    RegDeleteKeyA(HKEY_LOCAL_MACHINE, kKey);
+}
 
-int ExitCodeOf(int systemStatus) { return systemStatus; }
+int ExitCodeOf(int systemStatus) {
+    return systemStatus;
+}
 
 }  // namespace cvlang
