@@ -9,62 +9,43 @@
 namespace cvlang {
 namespace {
 
-class FailingRegistry : public Registry {
-  public:
+struct FailingRegistry : Registry {
     std::u16string ReadString(std::u16string_view, std::u16string_view) const override {
         throw std::runtime_error("no registry");
     }
     std::int32_t ReadDword(std::u16string_view, std::u16string_view) const override { return 0; }
 };
 
-std::u16string PostOfficesIn(std::u16string directory) {
-    return directory + kSeparator + u"POSTOFFICES";
-}
-
-TEST(Configuration, MissingValuesReadAsTheirDefaults) {
-    const FakeRegistry registry;
-    const Configuration config(registry);
-    EXPECT_EQ(config.GetProgramDirectory(), u"");
-    EXPECT_EQ(config.GetApplicationDirectory(), u"C:\\Program Files\\Corvane\\BIN");
-    EXPECT_EQ(config.GetPostOfficesDirectory(), PostOfficesIn(u""));
-    EXPECT_EQ(config.GetSourceRoot(), u"");
-    EXPECT_EQ(config.GetLocalDomainName(), u"");
-    EXPECT_FALSE(config.IsDebugMode());
-    EXPECT_EQ(config.GetAuthoringVersion(), 0);
-    EXPECT_EQ(config.GetLanguageAuthoring(), 0);
-    EXPECT_EQ(config.ReadRegistryString(u"SOFTWARE", u"Any", u"ignored default"), u"");
-}
-
-TEST(Configuration, EveryCallReadsAnew) {
+TEST(Configuration, EveryCallReadsAnewAndMissingValuesReadAsTheirDefaults) {
     FakeRegistry registry;
     const Configuration config(registry);
-    for (const std::u16string& text : {std::u16string(u"first"), std::u16string(u"second")}) {
+    for (const std::u16string text : {u"", u"first", u"second"}) {
         for (const char16_t* name :
              {u"Application Directory", u"Data Directory", u"Source Root", u"SMTPLocalDomainName"})
             registry.strings[name] = text;
         EXPECT_EQ(config.GetProgramDirectory(), text);
-        EXPECT_EQ(config.GetApplicationDirectory(), text);
-        EXPECT_EQ(config.GetPostOfficesDirectory(), PostOfficesIn(text));
+        EXPECT_EQ(config.GetApplicationDirectory(),
+                  text.empty() ? u"C:\\Program Files\\Corvane\\BIN" : text);
+        EXPECT_EQ(config.GetPostOfficesDirectory(), text + kSeparator + u"POSTOFFICES");
         EXPECT_EQ(config.GetSourceRoot(), text);
         EXPECT_EQ(config.GetLocalDomainName(), text);
     }
-    for (const std::int32_t number : {1, -3}) {
+    for (const std::int32_t number : {0, 1, -3}) {
         registry.numbers[u"Authoring Version"] = number;
         registry.numbers[u"Language Authoring"] = number + 1;
         EXPECT_EQ(config.GetAuthoringVersion(), number);
         EXPECT_EQ(config.GetLanguageAuthoring(), number + 1);
     }
+    EXPECT_EQ(config.ReadRegistryString(u"SOFTWARE", u"Any", u"ignored default"), u"");
 }
 
 TEST(Configuration, DebugModeIsTheExactWordTrue) {
     FakeRegistry registry;
     const Configuration config(registry);
-    for (const char16_t* off : {u"true", u"TRUE", u"1", u"True "}) {
-        registry.strings[u"DebugMode"] = off;
-        EXPECT_FALSE(config.IsDebugMode());
+    for (const char16_t* text : {u"", u"true", u"1", u"True ", u"True"}) {
+        registry.strings[u"DebugMode"] = text;
+        EXPECT_EQ(config.IsDebugMode(), registry.strings[u"DebugMode"] == u"True");
     }
-    registry.strings[u"DebugMode"] = u"True";
-    EXPECT_TRUE(config.IsDebugMode());
 }
 
 TEST(Configuration, AFailingRegistryGivesTheFallbacks) {

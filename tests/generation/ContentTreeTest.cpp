@@ -146,16 +146,6 @@ TEST_F(ContentTree, DebugModeTracesEveryTokenWithItsCount) {
     EXPECT_EQ(std::count(trace.begin(), trace.end(), '\n'), 2);
 }
 
-TEST_F(ContentTree, TranslateFolderStaysInItsFolderWhenNotToldToRecurse) {
-    PutFile(lang / "fr" / "a.asp", "[CV_TXT-A]");
-    PutFile(lang / "fr" / "in" / "b.asp", "[CV_TXT-A]");
-    PageTranslator pages(fake.program, u"French", u"default.net", u"WebMail", {u"", u"[CV_TXT-A]"},
-                         {u"", u"a"});
-    TranslateFolder(lang / "fr", pages, false);
-    EXPECT_EQ(FileBytes(lang / "fr" / "a.asp"), std::string(kMark) + "a");
-    EXPECT_EQ(FileBytes(lang / "fr" / "in" / "b.asp"), "[CV_TXT-A]");
-}
-
 TEST_F(ContentTree, LinksToFoldersAreNotWalked) {
     PutFile(fake.folder / "outside" / "a.asp", "[CV_TXT-A]");
     fs::create_directories(lang / "fr");

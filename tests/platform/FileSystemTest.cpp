@@ -46,14 +46,6 @@ TEST(FileSystem, RenamingNeitherReplacesAFileNorMovesAFolder) {
     EXPECT_FALSE(RenameFile(folder / "folder", folder / "other"));
 }
 
-TEST(FileSystem, AppendingCreatesTheFileAndTellsWhatFailed) {
-    const TemporaryFolder folder;
-    EXPECT_FALSE(AppendToFile(folder / "log", "one\n"));
-    EXPECT_FALSE(AppendToFile(folder / "log", "two\n"));
-    EXPECT_EQ(FileBytes(folder / "log"), "one\ntwo\n");
-    EXPECT_TRUE(AppendToFile(folder / "none" / "log", "one\n"));
-}
-
 TEST(FileSystem, AFolderIsListedInTheOrderOfADirectoryWindow) {
     const TemporaryFolder folder;
     for (const char* name : {"b.asp", "C.asp", "a.asp", "Abc.asp"})

@@ -33,7 +33,7 @@ CurrentFolder::~CurrentFolder() {
 }
 
 void PutFile(const fs::path& path, std::string_view bytes) {
-    fs::create_directories(path.parent_path());
+    fs::create_directories(fs::absolute(path).parent_path());
     std::ofstream file(path, std::ios::binary);
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }

@@ -10,64 +10,56 @@ namespace {
 
 namespace fs = std::filesystem;
 
+void Rewrite(const FakeProgram& fake, const char* file = "t.map",
+             const char* temporary = "_t.map") {
+    RewriteKeyedLine(fake.folder / file, fake.folder / temporary, u"k", u"new", fake.logs);
+}
+
 TEST(KeyedLines, EveryLineOfTheKeyGetsTheValueAndAllOthersStay) {
-    const struct {
-        const char16_t* before;
-        const char16_t* after;
-    } cases[] = {
+    const FakeProgram fake;
+    const std::pair<std::u16string, std::u16string> cases[] = {
         {u"a\t1\r\nk\told\tmore\r\nb\r\n", u"a\t1\r\nk\tnew\r\nb\r\n"},
         {u"k\t1\r\nk\t2\r\n", u"k\tnew\r\nk\tnew\r\n"},
         {u"k  \t1\r\n", u"k  \tnew\r\n"},
         {u"k", u"k\tnew\r\n"},
         {u"K\t1\r\n k\t2\r\n", u"K\t1\r\n k\t2\r\nk\tnew\r\n"},
         {u"\r\na\nb\r", u"\r\na\r\nb\r\nk\tnew\r\n"},
-        {u"", u"k\tnew\r\n"},
-    };
-    const FakeProgram fake;
+        {u"", u"k\tnew\r\n"}};
     for (const auto& [before, after] : cases) {
-        PutFile(fake.folder / "t.map", Utf16Bytes(before));
-        PutFile(fake.folder / "_t.map", "left over");
-        RewriteKeyedLine(fake.folder / "t.map", fake.folder / "_t.map", u"k", u"new", fake.logs);
-        EXPECT_EQ(FileBytes(fake.folder / "t.map"), Utf16Bytes(after));
-        EXPECT_FALSE(fs::exists(fake.folder / "_t.map"));
+        PutFile("t.map", Utf16Bytes(before));
+        PutFile("_t.map", "left over");
+        Rewrite(fake);
+        EXPECT_EQ(FileBytes("t.map"), Utf16Bytes(after));
+        EXPECT_FALSE(fs::exists("_t.map"));
     }
 }
 
-TEST(KeyedLines, AFileThatIsMissingIsCreatedWithoutATemporaryOne) {
+TEST(KeyedLines, EveryFailureLeavesTheStateThatIsExpected) {
     const FakeProgram fake;
-    PutFile(fake.folder / "_t.map", "left over");
-    RewriteKeyedLine(fake.folder / "t.map", fake.folder / "_t.map", u"k", u"", fake.logs);
-    EXPECT_EQ(FileBytes(fake.folder / "t.map"), Utf16Bytes(u"k\t\r\n"));
-    EXPECT_EQ(FileBytes(fake.folder / "_t.map"), "left over");
+    PutFile("_t.map", "left over");
+    Rewrite(fake);  // a missing file is created without the temporary one
+    EXPECT_EQ(FileBytes("t.map"), Utf16Bytes(u"k\tnew\r\n"));
+    EXPECT_EQ(FileBytes("_t.map"), "left over");
     EXPECT_EQ(fake.ErrorLog(), "(no file)");
-}
-
-TEST(KeyedLines, AFileThatCannotBeOpenedLeavesOneLineInTheLog) {
-    const FakeProgram fake;
-    RewriteKeyedLine(fake.folder / "none" / "t.map", fake.folder / "none" / "_t.map", u"k", u"v",
-                     fake.logs);
+    Rewrite(fake, "none/t.map", "none/_t.map");  // one that cannot be opened is told
     EXPECT_NE(fake.ErrorLog().find("\tUnable to update token\r\n"), std::string::npos);
-    EXPECT_FALSE(fs::exists(fake.folder / "none"));
-}
-
-TEST(KeyedLines, ATemporaryFileThatCannotBeCreatedCostsTheFile) {
-    const FakeProgram fake;
-    PutFile(fake.folder / "t.map", Utf16Bytes(u"k\told\r\n"));
-    fs::create_directory(fake.folder / "_t.map");
-    RewriteKeyedLine(fake.folder / "t.map", fake.folder / "_t.map", u"k", u"new", fake.logs);
-    EXPECT_FALSE(fs::exists(fake.folder / "t.map"));
-    EXPECT_TRUE(fs::is_directory(fake.folder / "_t.map"));
+    EXPECT_FALSE(fs::exists("none"));
+    fs::remove("_t.map");
+    fs::create_directory("_t.map");
+    Rewrite(fake);  // a temporary file that cannot be created costs the file
+    EXPECT_FALSE(fs::exists("t.map"));
+    EXPECT_TRUE(fs::is_directory("_t.map"));
 }
 
 TEST(TokenUpdate, SavesUnderTheTokenOfAListEntryInTheSelectedApplicationsFile) {
     FakeProgram fake;
     fake.program.CurrentApplication = u"WebAdmin";
     UpdateToken(fake.program, u"default", u"French", u"[CV_TXT-HELLO]: Hello", u"Bonjour \u3042");
-    EXPECT_EQ(FileBytes(fake.folder / "WebAdmin-default-tokens-fr.map"),
+    EXPECT_EQ(FileBytes("WebAdmin-default-tokens-fr.map"),
               Utf16Bytes(u"[CV_TXT-HELLO]\tBonjour \u3042\r\n"));
     fake.registry.numbers[u"Authoring Version"] = 1;
     UpdateToken(fake.program, u"default", u"French", u"[cv_TXT-HELLO]: x", u"old names");
-    EXPECT_EQ(FileBytes(fake.folder / "WebAdmin-default-tokens.fr"),
+    EXPECT_EQ(FileBytes("WebAdmin-default-tokens.fr"),
               Utf16Bytes(u"[cv_TXT-HELLO]: x\told names\r\n"));
 }
 

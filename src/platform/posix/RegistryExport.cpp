@@ -110,8 +110,10 @@ RegistryValue ValueFromBytes(unsigned kind, const std::vector<std::uint8_t>& byt
         if (!value.text->empty() && value.text->back() == u'\0')
             value.text->pop_back();
     } else if (kind == kDword && bytes.size() == 4) {
-        value.number = static_cast<std::int32_t>(bytes[0] | bytes[1] << 8 | bytes[2] << 16 |
-                                                 static_cast<std::uint32_t>(bytes[3]) << 24);
+        std::uint32_t number = 0;
+        for (std::size_t i = 0; i < bytes.size(); ++i)
+            number |= static_cast<std::uint32_t>(bytes[i]) << (8 * i);
+        value.number = static_cast<std::int32_t>(number);
     }
     return value;
 }

@@ -1,37 +1,46 @@
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "platform/FileSystem.h"
 #include "platform/Paths.h"
+#include "platform/Process.h"
 #include "support/Files.h"
 
 namespace cvlang {
 namespace {
 
-TEST(CaseLookup, AnEntryIsFoundAsWindowsWouldFindIt) {
+TEST(FindExisting, FindsAnEntryAsWindowsWould) {
     const TemporaryFolder folder;
     PutFile(folder / "NETWebMail" / "Zephra" / "Page.asp", "page");
     PutFile(folder / "exact.txt", "exact");
     PutFile(folder / "EXACT.txt", "other");
     PutFile(folder / "\xC3\x89t\xC3\xA9.txt", "accents");
-    const struct {
-        const char* asked;
-        const char* found;
-    } cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"netwebmail/ZEPHRA/page.ASP", "NETWebMail/Zephra/Page.asp"},
-        {"netwebmail/zephra", "NETWebMail/Zephra"},
         {"netwebmail/new/File.asp", "NETWebMail/new/File.asp"},
         {"EXACT.txt", "EXACT.txt"},
         {"exact.txt", "exact.txt"},
         {"\xC3\xA9T\xC3\x89.TXT", "\xC3\x89t\xC3\xA9.txt"},
-        {"none/of/these", "none/of/these"},
-    };
+        {"none/of/these", "none/of/these"}};
     for (const auto& [asked, found] : cases)
         EXPECT_EQ(FindExisting(folder / asked), folder / found) << asked;
     const CurrentFolder current(folder.Path());
     EXPECT_EQ(FindExisting("NETWEBMAIL/zephra"), "NETWebMail/Zephra");
-    EXPECT_TRUE(EntryExists(folder / "netwebmail"));
+    EXPECT_TRUE(EntryExists("netwebmail"));
     FileContent content;
-    EXPECT_EQ(ReadFile(folder / "NETWEBMAIL" / "zephra" / "PAGE.asp", content), FileStatus::Okay);
+    EXPECT_EQ(ReadFile("NETWEBMAIL/zephra/PAGE.asp", content), FileStatus::Okay);
+}
+
+TEST(CommandLineText, IsRebuiltFromTheArguments) {
+    const std::pair<std::vector<const char*>, std::u16string> cases[] = {
+        {{"program"}, u""},
+        {{"program", "WebMail", "x", "Brazilian Portuguese"},
+         u"WebMail x \"Brazilian Portuguese\""},
+        {{"program", "WebMail", "", "\xC3\xA9"}, u"WebMail \"\" \u00E9"},
+        {{"program", ""}, u"\"\""}};
+    for (const auto& [arguments, text] : cases)
+        EXPECT_EQ(CommandLineText(static_cast<int>(arguments.size()), arguments.data()), text);
 }
 
 }  // namespace
