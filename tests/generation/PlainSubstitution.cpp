@@ -3,22 +3,15 @@
 #include <algorithm>
 
 #include "platform/Ansi.h"
+#include "platform/Utf8.h"
 
 namespace cvlang {
 namespace {
 
 std::string Encode(const std::u16string& value) {
     std::string bytes;
-    for (const unsigned c : value) {
-        if (c < 128) {
-            bytes += static_cast<char>(c);
-        } else if (c < 2048) {
-            bytes += {static_cast<char>(192 + c / 64), static_cast<char>(128 + c % 64)};
-        } else {
-            bytes += {static_cast<char>(224 + c / 4096), static_cast<char>(128 + c / 64 % 64),
-                      static_cast<char>(128 + c % 64)};
-        }
-    }
+    for (const char16_t c : value)
+        bytes += Utf16ToUtf8({&c, 1});
     return bytes;
 }
 

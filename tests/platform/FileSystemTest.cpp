@@ -21,17 +21,6 @@ TEST(FileSystem, ReadingTellsAMissingFileFromAMissingFolder) {
     EXPECT_EQ(ReadFile(folder.Path(), content), FileStatus::OtherError);
 }
 
-TEST(FileSystem, ContentOfAnySizeIsReadWholeIntoMemoryUsedBefore) {
-    const TemporaryFolder folder;
-    FileContent content;
-    for (const std::size_t size : {100000U, 3U, 0U, 65536U}) {
-        const std::string bytes(size, static_cast<char>('a' + size % 26));
-        ASSERT_TRUE(WriteFile(folder / "file", bytes));
-        ASSERT_EQ(ReadFile(folder / "file", content), FileStatus::Okay);
-        EXPECT_EQ(content.Bytes(), bytes);
-    }
-}
-
 TEST(FileSystem, RenamingNeitherReplacesAFileNorMovesAFolder) {
     const TemporaryFolder folder;
     PutFile(folder / "new", "new");
