@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "config/TextHelpers.h"
 #include "support/FakeProgram.h"
+#include "translation/Lines.h"
 #include "translation/TokenUpdate.h"
 
 namespace cvlang {
@@ -15,50 +17,16 @@ constexpr char kDefaultList[] =
 
 TEST(LanguageTable, TheBuiltInAbbreviationsServeWithoutAListFile) {
     const FakeProgram fake;
-    // Names and abbreviations in turn.
-    const std::vector<std::u16string> cases = {u"Chinese",
-                                               u"zh",
-                                               u"ENGLISH",
-                                               u"en",
-                                               u"french",
-                                               u"fr",
-                                               u"German",
-                                               u"de",
-                                               u"Italian",
-                                               u"it",
-                                               u"Japanese",
-                                               u"ja",
-                                               u"Korean",
-                                               u"ko",
-                                               u"Portuguese",
-                                               u"pt",
-                                               u"portugese",
-                                               u"pt",
-                                               u"Brazilian Portuguese",
-                                               u"pt-BR",
-                                               u"Polish",
-                                               u"pl",
-                                               u"Brazilian PORTUGESE",
-                                               u"pt-BR",
-                                               u"Spanish",
-                                               u"es",
-                                               u"Danish",
-                                               u"dk",
-                                               u"Turkish",
-                                               u"tr",
-                                               u"Dutch",
-                                               u"nl",
-                                               u"Swedish",
-                                               u"",
-                                               u"Klingon",
-                                               u"",
-                                               u"",
-                                               u"",
-                                               u"French ",
-                                               u""};
-    for (std::size_t i = 0; i < cases.size(); i += 2) {
-        EXPECT_EQ(GetLanguageAbbreviation(fake.config, u"WebMail", cases[i], u"default"),
-                  cases[i + 1]);
+    constexpr std::u16string_view kCases =
+        u"Chinese\tzh\nENGLISH\ten\nfrench\tfr\nGerman\tde\nItalian\tit\nJapanese\tja\nKorean\tko\n"
+        u"Portuguese\tpt\nportugese\tpt\nBrazilian Portuguese\tpt-BR\nPolish\tpl\nDanish\tdk\n"
+        u"Brazilian PORTUGESE\tpt-BR\nSpanish\tes\nTurkish\ttr\nDutch\tnl\nSwedish\t\nKlingon\t\n"
+        u"\t\nFrench \t\n";
+    Lines<char16_t> cases(kCases);
+    for (std::u16string_view line; cases.Next(line);) {
+        const std::u16string_view name = SplitField(line, kTab, 1);
+        EXPECT_EQ(GetLanguageAbbreviation(fake.config, u"WebMail", name, u"default"),
+                  SplitField(line, kTab, 2));
     }
 }
 
