@@ -8,6 +8,7 @@
 #include "platform/Ansi.h"
 #include "platform/FileSystem.h"
 #include "platform/FolderCopy.h"
+#include "platform/FolderListing.h"
 #include "platform/Paths.h"
 #include "translation/LanguageTable.h"
 #include "translation/TokenMapFile.h"

@@ -7,10 +7,8 @@
 
 #include <filesystem>
 #include <memory>
-#include <string>
 #include <string_view>
 #include <system_error>
-#include <vector>
 
 namespace cvlang {
 
@@ -86,48 +84,5 @@ bool CreateFolder(const std::filesystem::path& path);
 /// Takes away what keeps a file from being changed: read-only and archive on Windows; on Linux the
 /// owner gets the permission to write.
 void ResetAttributes(const std::filesystem::path& path);
-
-enum class CopiedAttributes {
-    Kept,    // those of the original
-    Archive  // archive alone, which clears read-only
-};
-
-/// Where an entry of a folder is to be written.
-struct TargetName {
-    std::filesystem::path name;
-    bool exists;
-};
-
-/// Copies one file from a folder to another. An existing target is replaced, read-only or not, and
-/// a file copied onto itself stays as it is. A copy that cannot be completed is removed. False on
-/// failure.
-bool CopyOneFile(const Folder& from, const std::filesystem::path& name, const Folder& to,
-                 const TargetName& target, CopiedAttributes attributes);
-
-/// What lies directly in a folder: names without path, in the order of a directory window.
-struct FolderListing {
-    std::vector<std::filesystem::path> files;  // links to files among them
-    std::vector<std::filesystem::path> folders;
-    std::vector<std::filesystem::path> linkedFolders;
-};
-
-/// Empty lists when the folder cannot be read.
-FolderListing ListFolder(const std::filesystem::path& folder);
-
-/// The spellings that names have in a folder that files are to be copied to.
-class TargetNames {
-  public:
-    /// A folder that was just created needs no look at the disk.
-    TargetNames(const std::filesystem::path& folder, bool folderIsNew);
-    ~TargetNames();
-    TargetNames(const TargetNames&) = delete;
-    TargetNames& operator=(const TargetNames&) = delete;
-
-    TargetName Find(const std::filesystem::path& name) const;
-
-  private:
-    struct Names;
-    std::unique_ptr<Names> names_;  // none for a new folder
-};
 
 }  // namespace cvlang

@@ -1,6 +1,10 @@
 #include "platform/FolderCopy.h"
 
 #include <algorithm>
+#include <vector>
+
+#include "platform/FileSystem.h"
+#include "platform/FolderListing.h"
 
 namespace cvlang {
 namespace {

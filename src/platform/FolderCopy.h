@@ -1,7 +1,9 @@
 // Copying folders as a whole.
 #pragma once
 
-#include "platform/FileSystem.h"
+#include <filesystem>
+
+#include "platform/FileCopy.h"
 
 namespace cvlang {
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/FileSystem.h"
+#include "platform/FolderListing.h"
 #include "support/Files.h"
 
 namespace cvlang {

@@ -53,18 +53,6 @@ bool HasAttributes(DWORD attributes) {
            (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_ARCHIVE)) != 0;
 }
 
-std::vector<fs::path>& ListFor(const WIN32_FIND_DATAW& entry, FolderListing& listing) {
-    if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
-        return listing.files;
-    const bool linked = (entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
-    return linked ? listing.linkedFolders : listing.folders;
-}
-
-bool PrecedesInDirectoryWindow(const fs::path& a, const fs::path& b) {
-    const int order = CompareStringOrdinal(a.c_str(), -1, b.c_str(), -1, TRUE);
-    return order == CSTR_LESS_THAN || (order == CSTR_EQUAL && a.native() < b.native());
-}
-
 }  // namespace
 
 Folder::Folder(const fs::path& path) : path_(path) {}
@@ -147,58 +135,6 @@ void ResetAttributes(const fs::path& path) {
     const std::wstring file = LongPath(path);
     if (HasAttributes(GetFileAttributesW(file.c_str())))
         SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
-}
-
-bool CopyOneFile(const Folder& from, const fs::path& name, const Folder& to,
-                 const TargetName& target, CopiedAttributes attributes) {
-    const std::wstring original = LongPath(from.Path() / name);
-    const std::wstring copy = LongPath(to.Path() / target.name);
-    if (target.exists) {
-        const DWORD existing = GetFileAttributesW(copy.c_str());
-        if (existing != INVALID_FILE_ATTRIBUTES && (existing & FILE_ATTRIBUTE_READONLY) != 0)
-            SetFileAttributesW(copy.c_str(), FILE_ATTRIBUTE_NORMAL);
-    }
-    if (!CopyFileW(original.c_str(), copy.c_str(), FALSE))
-        return false;
-    // Not every Windows gives a file that was overwritten the attributes of the original.
-    SetFileAttributesW(copy.c_str(), attributes == CopiedAttributes::Archive
-                                         ? FILE_ATTRIBUTE_ARCHIVE
-                                         : GetFileAttributesW(original.c_str()));
-    return true;
-}
-
-FolderListing ListFolder(const fs::path& folder) {
-    FolderListing listing;
-    WIN32_FIND_DATAW entry{};
-    const std::wstring pattern = LongPath(folder / L"*");
-    const HANDLE search = FindFirstFileExW(pattern.c_str(), FindExInfoBasic, &entry,
-                                           FindExSearchNameMatch, nullptr, 0);
-    if (search == INVALID_HANDLE_VALUE)
-        return listing;
-    do {
-        const std::wstring_view name = entry.cFileName;
-        if (name != L"." && name != L"..")
-            ListFor(entry, listing).emplace_back(name);
-    } while (FindNextFileW(search, &entry));
-    FindClose(search);
-    for (auto* list : {&listing.files, &listing.folders, &listing.linkedFolders})
-        std::sort(list->begin(), list->end(), PrecedesInDirectoryWindow);
-    return listing;
-}
-
-struct TargetNames::Names {
-    fs::path folder;
-};
-
-TargetNames::TargetNames(const fs::path& folder, bool folderIsNew) {
-    if (!folderIsNew)
-        names_ = std::make_unique<Names>(Names{folder});
-}
-
-TargetNames::~TargetNames() = default;
-
-TargetName TargetNames::Find(const fs::path& name) const {
-    return {name, names_ != nullptr && EntryExists(names_->folder / name)};
 }
 
 }  // namespace cvlang
