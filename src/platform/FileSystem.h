@@ -60,7 +60,8 @@ class FileContent {
 FileStatus ReadFile(const Folder& folder, const std::filesystem::path& name, FileContent& content);
 FileStatus ReadFile(const std::filesystem::path& path, FileContent& content);
 
-/// Makes the bytes the file's whole content. False on failure; what the disk still took then stays.
+/// Makes the bytes the file's whole content. False on failure, also for a read-only file; what the
+/// disk still took then stays.
 bool WriteFile(const Folder& folder, const std::filesystem::path& name, std::string_view bytes);
 bool WriteFile(const std::filesystem::path& path, std::string_view bytes);
 
@@ -70,7 +71,7 @@ std::error_code AppendToFile(const std::filesystem::path& path, std::string_view
 /// Whether a file or a folder of that name exists.
 bool EntryExists(const std::filesystem::path& path);
 
-/// Deletes a file. False when it is still there afterwards.
+/// Deletes a file; a read-only one stays. False when it is still there afterwards.
 bool RemoveFile(const Folder& folder, const std::filesystem::path& name);
 bool RemoveFile(const std::filesystem::path& path);
 

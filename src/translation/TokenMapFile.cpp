@@ -59,9 +59,10 @@ std::u16string GetTokenValue(const Configuration& config, std::u16string_view cu
     return {};
 }
 
-void LoadTokens(const Configuration& config, std::u16string_view ApplicationName,
-                std::u16string_view BaseName, std::u16string_view LangName,
-                std::vector<std::u16string>& arrTokens, std::vector<std::u16string>& arrValues) {
+void LoadLanguageTokensIntoArrays(const Configuration& config, std::u16string_view ApplicationName,
+                                  std::u16string_view BaseName, std::u16string_view LangName,
+                                  std::vector<std::u16string>& arrTokens,
+                                  std::vector<std::u16string>& arrValues) {
     const Utf16File file(LanguageMapFileIn(config.GetApplicationDirectory(), config,
                                            ApplicationName, BaseName, LangName));
     const std::u16string_view text = file.Text();

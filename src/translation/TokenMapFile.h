@@ -47,8 +47,12 @@ std::u16string GetTokenValue(const Configuration& config, std::u16string_view cu
 /// Loads a language's map file: line k goes to element k of both arrays, element 0 stays as it is,
 /// and both end at the last line. A file that cannot be opened or holds no line leaves them
 /// unchanged.
-void LoadTokens(const Configuration& config, std::u16string_view ApplicationName,
-                std::u16string_view BaseName, std::u16string_view LangName,
-                std::vector<std::u16string>& arrTokens, std::vector<std::u16string>& arrValues);
+void LoadLanguageTokensIntoArrays(const Configuration& config, std::u16string_view ApplicationName,
+                                  std::u16string_view BaseName, std::u16string_view LangName,
+                                  std::vector<std::u16string>& arrTokens,
+                                  std::vector<std::u16string>& arrValues);
+
+/// The same, by the name that generation has for it.
+inline constexpr auto LoadTokens = LoadLanguageTokensIntoArrays;
 
 }  // namespace cvlang

@@ -44,6 +44,11 @@ TEST(KeyedLines, EveryFailureLeavesTheStateThatIsExpected) {
     Rewrite(fake, "none/t.map", "none/_t.map");  // one that cannot be opened is told
     EXPECT_NE(fake.ErrorLog().find("\tUnable to update token\r\n"), std::string::npos);
     EXPECT_FALSE(fs::exists("none"));
+    SetReadOnly("t.map", true);
+    RewriteKeyedLine(fake.folder / "t.map", fake.folder / "_t.map", u"k", u"2", fake.logs);
+    SetReadOnly("t.map", false);  // one that could not be deleted stays, the new content beside it
+    EXPECT_EQ(FileBytes("t.map"), Utf16Bytes(u"k\tnew\r\n"));
+    EXPECT_EQ(FileBytes("_t.map"), Utf16Bytes(u"k\t2\r\n"));
     fs::remove("_t.map");
     fs::create_directory("_t.map");
     Rewrite(fake);  // a temporary file that cannot be created costs the file

@@ -42,12 +42,31 @@ fs::path FolderOf(const fs::path& path) {
     return path.has_parent_path() ? path.parent_path() : ".";
 }
 
+/// Opens a file to be written anew. Root may write to any file, but a read-only one must stay as it
+/// is for him too.
+int OpenForWriting(const Place& place) {
+    const int created = Open(place, O_WRONLY | O_CREAT | O_EXCL);
+    struct stat existing {};
+    if (created >= 0 || errno != EEXIST ||
+        fstatat(place.directory, place.name, &existing, 0) != 0 || IsReadOnly(existing))
+        return created;
+    return Open(place, O_WRONLY | O_TRUNC);
+}
+
 bool Write(const Place& place, std::string_view bytes) {
-    Descriptor file(Open(place, O_WRONLY | O_CREAT | O_TRUNC));
+    Descriptor file(OpenForWriting(place));
     if (!file.IsOpen())
         return false;
     const bool written = WriteAll(file, bytes);
     return file.Close() && written;
+}
+
+/// Deletes a file as Windows would: there the attribute of the file counts, not that of its folder.
+bool RemoveUnlessReadOnly(const Place& place) {
+    struct stat existing {};
+    if (fstatat(place.directory, place.name, &existing, AT_SYMLINK_NOFOLLOW) != 0)
+        return errno == ENOENT;
+    return !IsReadOnly(existing) && Remove(place);
 }
 
 }  // namespace
@@ -110,11 +129,11 @@ bool EntryExists(const fs::path& path) {
 }
 
 bool RemoveFile(const Folder& folder, const fs::path& name) {
-    return Remove({folder, name});
+    return RemoveUnlessReadOnly({folder, name});
 }
 
 bool RemoveFile(const fs::path& path) {
-    return Remove(Place(path));
+    return RemoveUnlessReadOnly(Place(path));
 }
 
 bool RenameFile(const fs::path& from, const fs::path& to) {

@@ -1,0 +1,86 @@
+#include "download/TokenFileFetch.h"
+
+#include <filesystem>
+
+#include "platform/FileSystem.h"
+#include "platform/Paths.h"
+#include "translation/LanguageTable.h"
+
+namespace cvlang {
+namespace {
+
+constexpr std::string_view kErrorPage = "<!DOCTYPE HTML PUBLIC";
+constexpr std::string_view kUtf16ByteOrderMark = "\xFF\xFE";
+
+/// "WebMail[default.net]", as the titles and the question have it.
+std::u16string Name(const FetchSelection& selection) {
+    return selection.application + u"[" + selection.base + u"]";
+}
+
+// The wording, "to the this language" included, is what users and their documentation know.
+UserMessage OverwriteQuestion(const FetchSelection& selection) {
+    return {u"You have requested to download the default/current " + selection.language +
+                u" translation table for " + Name(selection) +
+                u" from the Corvane web site.\r\n\r\n"
+                u"This will overwrite any previous modifications you have made to the this "
+                u"language.\r\n\r\nDo you wish to continue?",
+            u"Update Language File: " + Name(selection), MessageButtons::YesNo,
+            MessageIcon::Question};
+}
+
+bool IsProtected(const Configuration& config, const std::filesystem::path& file) {
+    return EntryExists(file) && config.GetLanguageAuthoring() == 1;
+}
+
+/// Each pair of bytes is a character already; what is missing is the mark in front of them.
+std::string Content(const std::string& body, bool unicode) {
+    return unicode ? std::string(kUtf16ByteOrderMark) + body : body;
+}
+
+}  // namespace
+
+void FetchDefaultTranslation(Program& program, const DistributionServer& server,
+                             const FetchSelection& selection) {
+    if (program.messages.Show(OverwriteQuestion(selection)) != MessageAnswer::Yes)
+        return;
+    const std::u16string symbol = GetLanguageAbbreviation(program.config, selection.application,
+                                                          selection.language, selection.base);
+    if (symbol.empty()) {
+        program.messages.Show({u"Language Symbol not found", u"Warning", MessageButtons::Ok,
+                               MessageIcon::Exclamation});
+    }
+    FetchTokenFile(program, server, selection.application, selection.base,
+                   selection.application + u"-" + selection.base + u"-tokens-" + symbol + u".map");
+}
+
+void FetchTokenFile(Program& program, const DistributionServer& server,
+                    std::u16string_view sApplication, std::u16string_view sBase,
+                    std::u16string_view sTokenFile) {
+    std::u16string path = u"/Tools/";
+    path.append(sApplication).append(u"/bases/").append(sBase);
+    path.append(u"/Languages/").append(sTokenFile);
+    if (!DownloadTokenFile(program, server, sTokenFile, path, false))
+        program.messages.Show({u"Unable to fetch language token"});
+}
+
+bool DownloadTokenFile(Program& program, const DistributionServer& server,
+                       std::u16string_view sTokenFile, std::u16string_view sServerPath,
+                       bool bUnicode) {
+    std::u16string local = program.config.GetApplicationDirectory() + kSeparator;
+    local += sTokenFile;
+    const std::filesystem::path file = FindExisting(PathFromText(local));
+    if (IsProtected(program.config, file))
+        return true;
+    const std::string body = HttpGet(sServerPath, server.host, server.port);
+    if (body.starts_with(kErrorPage)) {
+        // The place for a name between the two blanks has never been filled.
+        program.messages.Show({u"Could not access File for  from the Server. File=" + local});
+        return false;
+    }
+    RemoveFile(file);
+    if (!EntryExists(file))
+        WriteFile(file, Content(body, bUnicode));
+    return true;
+}
+
+}  // namespace cvlang

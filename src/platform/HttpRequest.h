@@ -1,0 +1,24 @@
+// One HTTP/1.0 request through the system's HTTP client: WinINet on Windows, libcurl on Linux.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace cvlang {
+
+/// What goes over the wire, as bytes.
+struct HttpRequest {
+    std::string host;  // a name or an address, without scheme and port
+    std::uint16_t port = 80;
+    std::string target;  // of the request line, sent as it stands, blanks too
+    std::string verb;
+    std::string body;
+    std::string header;  // one more header line without its end, or none
+};
+
+/// Sends the request and returns what arrived of the response's body, whatever the status said;
+/// empty when the server cannot be reached. The system's proxy settings hold, nothing is taken from
+/// a cache, and no time-out is set.
+std::string SendRequest(const HttpRequest& request);
+
+}  // namespace cvlang
