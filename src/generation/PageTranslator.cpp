@@ -71,9 +71,9 @@ void PageTranslator::TranslateFile(const Folder& folder, const fs::path& name, b
     if (!destination.empty()) {
         WriteElsewhere(FindExisting(destination / name));
     } else {
-        RemoveFile(folder, name);
+        RemoveWritableFile(folder, name);
         if (!WriteFile(folder, name, PageBytes()))
-            RemoveFile(folder, name);
+            RemoveWritableFile(folder, name);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "generation/PlaceholderSubstitution.h"
 
 #include <algorithm>
+#include <cstring>
 #include <limits>
 #include <utility>
 
@@ -12,6 +13,12 @@ namespace {
 
 // Tokens are numbered with 16 bits; installations rely on pages being left alone beyond that.
 constexpr TokenNumber kMostTokens = std::numeric_limits<std::int16_t>::max();
+
+bool IsPlaceholderAt(std::string_view text, std::size_t position) {
+    return text.size() - position >= kPlaceholderPrefix.size() &&
+           std::memcmp(text.data() + position, kPlaceholderPrefix.data(),
+                       kPlaceholderPrefix.size()) == 0;
+}
 
 bool HoldsPlaceholder(std::string_view text) {
     return text.find(kPlaceholderPrefix) != std::string_view::npos;
@@ -33,7 +40,7 @@ std::size_t LineStart(std::string_view text, std::size_t from, std::size_t posit
 /// none.
 std::size_t FindBracketBehind(std::string_view text, std::size_t open) {
     std::size_t from = open + 1;
-    if (text.substr(open, kPlaceholderPrefix.size()) == kPlaceholderPrefix)
+    if (IsPlaceholderAt(text, open))
         from = open + kPlaceholderPrefix.size();
     while (from < text.size() && text[from] != '[' && text[from] != ']')
         ++from;
@@ -85,7 +92,7 @@ std::size_t PlaceholderSubstitution::FindPlaceholderLine(std::string_view text,
         if (firstBracket == std::string_view::npos ||
             text.substr(firstBracket, open - firstBracket).find('\n') != std::string_view::npos)
             firstBracket = open;
-        if (text.substr(open, kPlaceholderPrefix.size()) != kPlaceholderPrefix)
+        if (!IsPlaceholderAt(text, open))
             continue;
         return tokens_.IrregularTokens().empty() ? firstBracket : LineStart(text, from, open);
     }

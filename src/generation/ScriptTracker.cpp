@@ -22,15 +22,14 @@ constexpr std::size_t kLookAhead = 2;
 /// Whether "scr" stands at one of the `size` characters from `text`, behind which kLookAhead more
 /// can be read. Written so that the compiler looks at many characters at once.
 bool MayHoldMarker(const char* text, std::size_t size) {
-    constexpr unsigned char kLower = 0x20;
+    constexpr unsigned kIgnoreCase = 0xDF;
     const auto* c = reinterpret_cast<const unsigned char*>(text);
-    unsigned char found = 0;
+    unsigned char closest = kIgnoreCase;  // 0 when all three letters agree somewhere
     for (std::size_t i = 0; i < size; ++i) {
-        const unsigned char s = (c[i] | kLower) == 's';
-        const unsigned char sc = s & ((c[i + 1] | kLower) == 'c');
-        found |= static_cast<unsigned char>(sc & ((c[i + 2] | kLower) == 'r'));
+        const unsigned difference = (c[i] ^ 's') | (c[i + 1] ^ 'c') | (c[i + 2] ^ 'r');
+        closest = std::min(closest, static_cast<unsigned char>(difference & kIgnoreCase));
     }
-    return found != 0;
+    return closest == 0;
 }
 
 bool IsMarker(std::string_view text) {

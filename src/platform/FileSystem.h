@@ -72,8 +72,10 @@ std::error_code AppendToFile(const std::filesystem::path& path, std::string_view
 bool EntryExists(const std::filesystem::path& path);
 
 /// Deletes a file; a read-only one stays. False when it is still there afterwards.
-bool RemoveFile(const Folder& folder, const std::filesystem::path& name);
 bool RemoveFile(const std::filesystem::path& path);
+
+/// Deletes a file that is known not to be read-only.
+bool RemoveWritableFile(const Folder& folder, const std::filesystem::path& name);
 
 /// Gives a file another name in the same folder. False when that name is taken, or when there is no
 /// such file.

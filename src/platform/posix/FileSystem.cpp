@@ -61,14 +61,6 @@ bool Write(const Place& place, std::string_view bytes) {
     return file.Close() && written;
 }
 
-/// Deletes a file as Windows would: there the attribute of the file counts, not that of its folder.
-bool RemoveUnlessReadOnly(const Place& place) {
-    struct stat existing {};
-    if (fstatat(place.directory, place.name, &existing, AT_SYMLINK_NOFOLLOW) != 0)
-        return errno == ENOENT;
-    return !IsReadOnly(existing) && Remove(place);
-}
-
 }  // namespace
 
 Folder::Folder(const fs::path& path)
@@ -128,12 +120,16 @@ bool EntryExists(const fs::path& path) {
     return fs::exists(FindExisting(path), ignored);
 }
 
-bool RemoveFile(const Folder& folder, const fs::path& name) {
-    return RemoveUnlessReadOnly({folder, name});
+bool RemoveWritableFile(const Folder& folder, const fs::path& name) {
+    return Remove({folder, name});
 }
 
 bool RemoveFile(const fs::path& path) {
-    return RemoveUnlessReadOnly(Place(path));
+    // As on Windows, where the attribute of the file counts and not that of its folder.
+    struct stat existing {};
+    if (lstat(path.c_str(), &existing) != 0)
+        return errno == ENOENT;
+    return !IsReadOnly(existing) && Remove(Place(path));
 }
 
 bool RenameFile(const fs::path& from, const fs::path& to) {

@@ -113,7 +113,7 @@ bool EntryExists(const fs::path& path) {
     return GetFileAttributesW(LongPath(path).c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
-bool RemoveFile(const Folder& folder, const fs::path& name) {
+bool RemoveWritableFile(const Folder& folder, const fs::path& name) {
     return RemoveFile(folder.Path() / name);
 }
 
