@@ -1,5 +1,8 @@
 #include "platform/FileCopy.h"
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <array>
 
 #include "platform/posix/Descriptor.h"
@@ -30,18 +33,23 @@ bool CopyBytes(const Descriptor& from, const Descriptor& to, off_t size) {
     }
 }
 
-/// Makes way for a copy. Truncating instead would have ext4 write the file to the disk at once, a
-/// hundred times slower. False when nothing must be written, because the target is the file to be
-/// copied.
-bool MakeWay(const Place& to, const struct stat& original) {
-    struct stat existing {};
-    if (Remove(to) || fstatat(to.directory, to.name, &existing, 0) != 0)
-        return true;
-    if (IsSameFile(existing, original))
-        return false;
+/// Opens an existing file to be written over, without emptying it: ext4 writes a file that was
+/// emptied to the disk at once, and hands out new files slowly just after others were deleted. -1
+/// when a new file has to take its place, because something outside the folder would be written to.
+int OpenOver(const Place& to, const struct stat& existing) {
+    if (!S_ISREG(existing.st_mode) || existing.st_nlink != 1)
+        return -1;
     if (IsReadOnly(existing))
         fchmodat(to.directory, to.name, existing.st_mode | S_IWUSR, 0);
-    return true;
+    return Open(to, O_WRONLY | O_NOFOLLOW);
+}
+
+/// Cuts off what an overwritten file held behind its new content, and makes it read-only or not.
+bool FinishOver(const Descriptor& copy, const struct stat& existing, bool readOnly) {
+    const off_t size = lseek(copy.Number(), 0, SEEK_CUR);
+    if (readOnly)
+        fchmod(copy.Number(), existing.st_mode & ~static_cast<mode_t>(0222));
+    return existing.st_size <= size || ftruncate(copy.Number(), size) == 0;
 }
 
 }  // namespace
@@ -53,13 +61,24 @@ bool CopyOneFile(const Folder& from, const fs::path& name, const Folder& to,
     struct stat original {};
     if (!source.IsOpen() || fstat(source.Number(), &original) != 0)
         return false;
-    if (target.exists && !MakeWay(place, original))
-        return true;
     const mode_t added = attributes == CopiedAttributes::Archive ? S_IWUSR : 0;
-    Descriptor copy(Open(place, O_WRONLY | O_CREAT | O_TRUNC, (original.st_mode | added) & 0777));
+    const mode_t mode = (original.st_mode | added) & 0777;
+
+    struct stat existing {};
+    const bool exists =
+        target.exists && fstatat(place.directory, place.name, &existing, AT_SYMLINK_NOFOLLOW) == 0;
+    if (exists && IsSameFile(existing, original))
+        return true;
+    const int overwritten = exists ? OpenOver(place, existing) : -1;
+    if (exists && overwritten < 0)
+        Remove(place);
+    Descriptor copy(overwritten >= 0 ? overwritten
+                                     : Open(place, O_WRONLY | O_CREAT | O_TRUNC, mode));
     if (!copy.IsOpen())
         return false;
-    const bool copied = CopyBytes(source, copy, original.st_size);
+    bool copied = CopyBytes(source, copy, original.st_size);
+    if (overwritten >= 0)
+        copied = FinishOver(copy, existing, (mode & S_IWUSR) == 0) && copied;
     if (copy.Close() && copied)
         return true;
     Remove(place);
