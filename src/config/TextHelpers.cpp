@@ -1,5 +1,6 @@
 #include "config/TextHelpers.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace cvlang {
@@ -39,6 +40,15 @@ std::u16string_view SplitField(std::u16string_view text, std::u16string_view del
             return {};
         text.remove_prefix(end + delimiter.size());
     }
+}
+
+std::u16string_view TrimBlanks(std::u16string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(u' '), text.size()));
+    return TrimTrailingBlanks(text);
+}
+
+std::u16string_view TrimTrailingBlanks(std::u16string_view text) {
+    return text.substr(0, text.find_last_not_of(u' ') + 1);
 }
 
 std::u16string_view GetStringBetween(std::u16string_view text, std::u16string_view startMarker,

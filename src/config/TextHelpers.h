@@ -14,6 +14,10 @@ inline constexpr std::u16string_view kTab = u"\t";
 /// field.
 std::u16string_view SplitField(std::u16string_view text, std::u16string_view delimiter, int n);
 
+/// The text without the blanks at both ends, or at its end alone.
+std::u16string_view TrimBlanks(std::u16string_view text);
+std::u16string_view TrimTrailingBlanks(std::u16string_view text);
+
 /// The text between the first start marker and the first end marker behind it; empty when either is
 /// missing.
 std::u16string_view GetStringBetween(std::u16string_view text, std::u16string_view startMarker,

@@ -18,11 +18,6 @@ std::u16string KeyedLine(std::u16string_view key, std::u16string_view value) {
     return line;
 }
 
-std::u16string_view WithoutTrailingBlanks(std::u16string_view text) {
-    const std::size_t last = text.find_last_not_of(u' ');
-    return last == std::u16string_view::npos ? std::u16string_view() : text.substr(0, last + 1);
-}
-
 std::u16string WithNewValue(std::u16string_view text, std::u16string_view key,
                             std::u16string_view value) {
     std::u16string rewritten;
@@ -33,7 +28,7 @@ std::u16string WithNewValue(std::u16string_view text, std::u16string_view key,
         const std::u16string_view field = SplitField(line, kTab, 1);
         // Blanks behind the key count as part of it here and are kept, although a look-up does not
         // find such a line.
-        if (WithoutTrailingBlanks(field) == key) {
+        if (TrimTrailingBlanks(field) == key) {
             rewritten += KeyedLine(field, value);
             found = true;
         } else {

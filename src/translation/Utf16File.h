@@ -30,4 +30,7 @@ class Utf16File {
 /// Makes the text, behind a byte-order mark, the file's whole content. False on failure.
 bool WriteUtf16File(const std::filesystem::path& path, std::u16string_view text);
 
+/// Writes the text at the end of an existing file. What cannot be written is lost.
+void AppendToUtf16File(const std::filesystem::path& path, std::u16string_view text);
+
 }  // namespace cvlang

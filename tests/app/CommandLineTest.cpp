@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "app/ApplicationDiscovery.h"
 #include "support/FakeProgram.h"
 
 namespace cvlang {
@@ -48,6 +49,16 @@ TEST(CommandLine, AnEmptyLanguageIsPassedOn) {
               "\xEF\xBB\xBF"
               "a");
     EXPECT_TRUE(fake.messages.shown.empty());
+}
+
+TEST(ApplicationDiscovery, BasesAreListedInTheirOrderWhereTheirFolderExists) {
+    FakeProgram fake;
+    EXPECT_TRUE(DetectBases(fake.config, kProbedApplication).empty());
+    for (const char* name : {"zephra", "default", "kestos"})
+        std::filesystem::create_directories(fake.folder / "netwebmail" / name);
+    PutFile(fake.folder / "netwebmail" / "enterprise", "a file counts too");
+    EXPECT_EQ(DetectBases(fake.config, kProbedApplication),
+              (std::vector<std::u16string>{u"default.net", u"enterprise.net", u"zephra.net"}));
 }
 
 }  // namespace

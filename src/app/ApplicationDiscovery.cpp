@@ -1,0 +1,26 @@
+#include "app/ApplicationDiscovery.h"
+
+#include "platform/FileSystem.h"
+#include "platform/Paths.h"
+
+namespace cvlang {
+
+bool BaseExists(const Configuration& config, std::u16string_view ApplicationName,
+                std::u16string_view BaseName) {
+    std::u16string path = config.GetApplicationDirectory();
+    for (const std::u16string_view part : {ApplicationName, BaseName})
+        path.append(1, kSeparator).append(part);
+    return EntryExists(PathFromText(path));
+}
+
+std::vector<std::u16string> DetectBases(const Configuration& config,
+                                        std::u16string_view applicationFolder) {
+    std::vector<std::u16string> bases;
+    for (const std::u16string_view name : {u"default", u"enterprise", u"zephra", u"kesto"}) {
+        if (BaseExists(config, applicationFolder, name))
+            bases.push_back(std::u16string(name) + u".net");
+    }
+    return bases;
+}
+
+}  // namespace cvlang

@@ -1,0 +1,93 @@
+#include "translation/TokenLines.h"
+
+#include <string>
+
+#include "config/TextHelpers.h"
+#include "platform/FileSystem.h"
+#include "platform/FolderListing.h"
+#include "platform/LetterCase.h"
+#include "platform/Paths.h"
+#include "translation/Lines.h"
+#include "translation/TokenMapFile.h"
+#include "translation/Utf16File.h"
+
+namespace cvlang {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A language map file's token. One stray character in front of it, such as a second byte-order
+/// mark, does not count.
+std::u16string_view LanguageFileToken(std::u16string_view line) {
+    std::u16string_view token = SplitField(line, kTab, kTokenField);
+    if (!token.empty() && token.front() != u'[')
+        token.remove_prefix(1);
+    return token;
+}
+
+/// A reference map file's token. A line that is too short has none and is kept.
+std::u16string_view ReferenceFileToken(std::u16string_view line) {
+    return SplitField(line, kTab, kReferenceTokenField);
+}
+
+using TokenOfLine = std::u16string_view (*)(std::u16string_view line);
+
+void RemoveLines(const fs::path& mapFile, std::u16string_view token, TokenOfLine tokenOf) {
+    const fs::path file = FindExisting(mapFile);
+    const Utf16File original(file);
+    if (original.Status() != FileStatus::Okay)
+        return;
+    std::u16string kept;
+    Lines<char16_t> lines(original.Text());
+    for (std::u16string_view line; lines.Next(line);) {
+        if (tokenOf(line) != token || tokenOf(line).empty())
+            kept.append(line).append(kLineEnd);
+    }
+    fs::path copy = file;
+    copy += "D";
+    copy = FindExisting(copy);
+    if (!WriteUtf16File(copy, kept))
+        return;
+    // Deleted before the copy takes its name, on purpose: readers never see two files.
+    RemoveFile(file);
+    RenameFile(copy, file);
+}
+
+/// "WebMail-default.net-tokens-", of a reference map file's name.
+std::u16string LanguageFilePrefix(const fs::path& referenceMapFile) {
+    const std::u16string name = TextFromPath(referenceMapFile.filename());
+    std::u16string prefix(SplitField(name, u"-", 1));
+    return prefix.append(u"-").append(SplitField(name, u"-", 2)).append(u"-tokens-");
+}
+
+}  // namespace
+
+void AddTokenLine(const fs::path& referenceMapFile, std::u16string_view name,
+                  std::u16string_view value) {
+    const fs::path file = FindExisting(referenceMapFile);
+    const Utf16File existing(file);
+    const bool inMiddleOfLine = !existing.Text().empty() && !existing.Text().ends_with(kLineEnd);
+    std::u16string line(inMiddleOfLine ? kLineEnd : u"");
+    line.append(u"\t\t\t[CV_TXT-").append(name).append(u"]\t").append(value).append(kLineEnd);
+    if (existing.Status() == FileStatus::NotFound) {
+        WriteUtf16File(file, line);
+    } else {
+        AppendToUtf16File(file, line);
+    }
+}
+
+void RemoveFromReferenceFile(const fs::path& referenceMapFile, std::u16string_view token) {
+    RemoveLines(referenceMapFile, token, ReferenceFileToken);
+}
+
+void RemoveFromLanguageFiles(const fs::path& referenceMapFile, std::u16string_view token) {
+    const std::u16string prefix = ToUpper(LanguageFilePrefix(referenceMapFile));
+    const fs::path folder = referenceMapFile.parent_path();
+    for (const fs::path& name : ListFolder(folder).files) {
+        const std::u16string upper = ToUpper(TextFromPath(name));
+        if (upper.starts_with(prefix) && upper.ends_with(u".MAP"))
+            RemoveLines(folder / name, token, LanguageFileToken);
+    }
+}
+
+}  // namespace cvlang
