@@ -110,8 +110,7 @@ void PlaceholderSubstitution::TranslateLine(const Line& line, std::string& outpu
 /// the order matters.
 bool PlaceholderSubstitution::ReplaceAtOnce(const Line& line, std::string& output) {
     const std::size_t outputStart = output.size();
-    const TokenNumber end = tokens_.UpperBound() + 1;
-    if (ReplaceGroups(line, line.text, 0, end, output) != end) {
+    if (ReplaceGroups(line, line.text, 0, nullptr, output) != nullptr) {
         output.resize(outputStart);
         replaced_.clear();
         return false;
@@ -129,34 +128,45 @@ std::string PlaceholderSubstitution::ReplaceInOrder(const Line& line) {
     std::string text(line.text);
     TokenNumber done = 0;
     while (HoldsPlaceholder(text)) {
-        TokenNumber next = NextIrregular(done);
-        const auto replacedBefore = static_cast<std::ptrdiff_t>(replaced_.size());
-        std::string changed;
-        for (TokenNumber before = 0; before != next;) {
-            before = next;
-            changed.clear();
-            replaced_.erase(replaced_.begin() + replacedBefore, replaced_.end());
-            next = ReplaceGroups(line, text, done, before, changed);
-        }
-        text.swap(changed);
+        const IndexedToken* next = ReplaceUpToNext(line, done, text);
         done = LastReplaced();
         if (!HoldsPlaceholder(text))
             break;
-        done = std::min(next, tokens_.UpperBound());
-        if (next > tokens_.UpperBound())
+        done = next == nullptr ? tokens_.UpperBound() : next->Number();
+        if (next == nullptr)
             break;
-        text = ReplaceToken(line, text, next);
+        text = ReplaceToken(line, text, *next);
     }
     CountEmptyTokensUpTo(done);
     return text;
 }
 
-/// Appends the text with each group replaced that is a token between `after` and `before` and whose
-/// place in the order does not matter. Returns the first token between them whose place does
-/// matter, or else `before`.
-TokenNumber PlaceholderSubstitution::ReplaceGroups(const Line& line, std::string_view text,
-                                                   TokenNumber after, TokenNumber before,
-                                                   std::string& output) {
+/// Replaces the tokens behind `done` up to the next one whose place in the order matters, and
+/// returns that one; null when there is none.
+const IndexedToken* PlaceholderSubstitution::ReplaceUpToNext(const Line& line, TokenNumber done,
+                                                             std::string& text) {
+    const auto replacedBefore = static_cast<std::ptrdiff_t>(replaced_.size());
+    const IndexedToken* next = NextIrregular(done);
+    for (;;) {
+        std::string changed;
+        const IndexedToken* found = ReplaceGroups(line, text, done, next, changed);
+        if (found == next) {
+            text.swap(changed);
+            return next;
+        }
+        // An earlier one turned up on the way: only what comes before it counts.
+        replaced_.erase(replaced_.begin() + replacedBefore, replaced_.end());
+        next = found;
+    }
+}
+
+/// Appends the text with each group replaced that is a token behind `after` and before `before`
+/// (null: up to the last) and whose place in the order does not matter. Returns the first token
+/// between them whose place does matter, or else `before`.
+const IndexedToken* PlaceholderSubstitution::ReplaceGroups(const Line& line, std::string_view text,
+                                                           TokenNumber after,
+                                                           const IndexedToken* before,
+                                                           std::string& output) {
     std::size_t copied = 0;
     bool behindOpenBracket = false;
     std::size_t open = text.find('[');
@@ -169,15 +179,15 @@ TokenNumber PlaceholderSubstitution::ReplaceGroups(const Line& line, std::string
             open = close;
             continue;
         }
-        const TokenNumber number = tokens_.FindGroup(text.substr(open, close + 1 - open), after);
-        if (number != 0 && number < before) {
+        const IndexedToken* token = tokens_.FindGroup(text.substr(open, close + 1 - open), after);
+        if (token != nullptr && (before == nullptr || token->Number() < before->Number())) {
             // Behind an open bracket the value may become part of another placeholder.
-            if (behindOpenBracket || tokens_.DependsOnOrder(number)) {
-                before = number;
+            if (behindOpenBracket || token->DependsOnOrder()) {
+                before = token;
             } else {
                 output += text.substr(copied, open - copied);
-                AppendValue(line, number, output);
-                replaced_.push_back(number);
+                AppendValue(line, *token, output);
+                replaced_.push_back(token->Number());
                 copied = close + 1;
             }
         }
@@ -188,38 +198,39 @@ TokenNumber PlaceholderSubstitution::ReplaceGroups(const Line& line, std::string
     return before;
 }
 
+/// Replaces every occurrence of an irregular or order-dependent token.
 std::string PlaceholderSubstitution::ReplaceToken(const Line& line, std::string_view text,
-                                                  TokenNumber number) {
-    const std::string_view token = tokens_.Token(number);
+                                                  const IndexedToken& token) {
     std::string output;
     std::size_t copied = 0;
-    std::size_t found = text.find(token);
+    std::size_t found = text.find(token.Token());
     if (found != std::string_view::npos)
-        replaced_.push_back(number);
+        replaced_.push_back(token.Number());
     while (found != std::string_view::npos) {
         output += text.substr(copied, found - copied);
-        AppendValue(line, number, output);
-        copied = found + token.size();
-        found = text.find(token, copied);
+        AppendValue(line, token, output);
+        copied = found + token.Token().size();
+        found = text.find(token.Token(), copied);
     }
     output += text.substr(copied);
     return output;
 }
 
-void PlaceholderSubstitution::AppendValue(const Line& line, TokenNumber number,
+void PlaceholderSubstitution::AppendValue(const Line& line, const IndexedToken& token,
                                           std::string& output) {
-    const std::string_view value = tokens_.Value(number);
-    if (tokens_.HasQuotes(number) && line.script.IsScript(line.end)) {
-        output += EscapeForScript(value);
+    if (token.HasQuotes() && line.script.IsScript(line.end)) {
+        output += EscapeForScript(token.Value());
     } else {
-        output += value;
+        output += token.Value();
     }
 }
 
-TokenNumber PlaceholderSubstitution::NextIrregular(TokenNumber after) const {
+const IndexedToken* PlaceholderSubstitution::NextIrregular(TokenNumber after) const {
     const auto& irregular = tokens_.IrregularTokens();
-    const auto next = std::upper_bound(irregular.begin(), irregular.end(), after);
-    return next == irregular.end() ? tokens_.UpperBound() + 1 : *next;
+    const auto next = std::upper_bound(
+        irregular.begin(), irregular.end(), after,
+        [](TokenNumber number, const IndexedToken* token) { return number < token->Number(); });
+    return next == irregular.end() ? nullptr : *next;
 }
 
 TokenNumber PlaceholderSubstitution::LastReplaced() const {

@@ -41,11 +41,12 @@ class PlaceholderSubstitution {
     void TranslateLine(const Line& line, std::string& output);
     bool ReplaceAtOnce(const Line& line, std::string& output);
     std::string ReplaceInOrder(const Line& line);
-    TokenNumber ReplaceGroups(const Line& line, std::string_view text, TokenNumber after,
-                              TokenNumber before, std::string& output);
-    std::string ReplaceToken(const Line& line, std::string_view text, TokenNumber number);
-    void AppendValue(const Line& line, TokenNumber number, std::string& output);
-    TokenNumber NextIrregular(TokenNumber after) const;
+    const IndexedToken* ReplaceUpToNext(const Line& line, TokenNumber done, std::string& text);
+    const IndexedToken* ReplaceGroups(const Line& line, std::string_view text, TokenNumber after,
+                                      const IndexedToken* before, std::string& output);
+    std::string ReplaceToken(const Line& line, std::string_view text, const IndexedToken& token);
+    static void AppendValue(const Line& line, const IndexedToken& token, std::string& output);
+    const IndexedToken* NextIrregular(TokenNumber after) const;
     TokenNumber LastReplaced() const;
     void CountReplaced();
     void CountEmptyTokensUpTo(TokenNumber last);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstring>
+#include <new>
 #include <optional>
 
 #include "generation/PageEncoding.h"
@@ -38,12 +39,14 @@ bool IsQuote(char c) {
     return c == '\'' || c == '"';
 }
 
+constexpr std::size_t kAlignment = alignof(IndexedToken);
+
 /// Room for all tokens and values at their longest.
 std::size_t MostBytes(const std::vector<std::u16string>& tokens,
                       const std::vector<std::u16string>& values) {
-    std::size_t bytes = 0;
+    std::size_t bytes = kAlignment + tokens.size() * (sizeof(IndexedToken) + kAlignment);
     for (const std::u16string& token : tokens)
-        bytes += token.size();
+        bytes += token.size() * 2;
     for (const std::u16string& value : values)
         bytes += value.size() * 3;
     return bytes;
@@ -53,10 +56,12 @@ std::size_t MostBytes(const std::vector<std::u16string>& tokens,
 
 TokenIndex::TokenIndex(const std::vector<std::u16string>& arrTokens,
                        const std::vector<std::u16string>& arrValues)
-    : entries_(arrTokens.size()), slots_(std::bit_ceil(2 * arrTokens.size() + 1)) {
-    text_.reserve(MostBytes(arrTokens, arrValues));
+    : upperBound_(static_cast<TokenNumber>(arrTokens.size()) - 1),
+      memory_(std::make_unique_for_overwrite<std::byte[]>(MostBytes(arrTokens, arrValues))),
+      used_(kAlignment),  // place 0 stands for none
+      slots_(std::bit_ceil(arrTokens.size() + arrTokens.size() / 4 + 1)) {
     // From the last to the first: a token is put before those of the same text.
-    for (TokenNumber number = UpperBound(); number > 0; --number) {
+    for (TokenNumber number = upperBound_; number > 0; --number) {
         const auto i = static_cast<std::size_t>(number);
         Add(number, arrTokens[i], arrValues[i]);
     }
@@ -68,50 +73,69 @@ void TokenIndex::Add(TokenNumber number, std::u16string_view token, std::u16stri
     const std::optional<std::string> ansi = Utf16ToAnsiExactly(token);
     if (!ansi)
         return;
+    if (ansi->empty()) {
+        empty_.push_back(number);
+        return;
+    }
     std::string encoded;
     if (!value.empty()) {
         EncodeUTF8(value, encoded_);
         encoded = BytesToString(encoded_);
     }
-    Entry& entry = At(number);
-    entry.start = text_.size();
-    entry.tokenLength = static_cast<std::uint32_t>(ansi->size());
-    entry.valueLength = static_cast<std::uint32_t>(encoded.size());
-    entry.hasQuotes = std::any_of(encoded.begin(), encoded.end(), IsQuote);
-    text_ += *ansi;
-    text_ += encoded;
-    if (ansi->empty()) {
-        empty_.push_back(number);
-    } else if (IsGroup(*ansi)) {
-        entry.dependsOnOrder =
-            ansi->rfind(kPlaceholderPrefix, 0) != 0 || encoded.find('[') != std::string::npos;
-        AddGroup(number);
+    IndexedToken& stored = Store(number, *ansi, encoded);
+    if (IsGroup(*ansi)) {
+        AddGroup(stored);
     } else {
-        irregular_.push_back(number);
+        irregular_.push_back(&stored);
     }
+}
+
+IndexedToken& TokenIndex::Store(TokenNumber number, std::string_view token,
+                                std::string_view value) {
+    auto* stored = new (memory_.get() + used_) IndexedToken;
+    stored->nextAlike_ = nullptr;
+    stored->number_ = number;
+    stored->tokenLength_ = static_cast<std::uint32_t>(token.size());
+    stored->valueLength_ = static_cast<std::uint32_t>(value.size());
+    stored->hasQuotes_ = std::any_of(value.begin(), value.end(), IsQuote);
+    stored->dependsOnOrder_ =
+        !token.starts_with(kPlaceholderPrefix) || value.find('[') != std::string_view::npos;
+    std::byte* texts = memory_.get() + used_ + sizeof(IndexedToken);
+    std::memcpy(texts, token.data(), token.size());
+    std::memcpy(texts + token.size(), value.data(), value.size());
+    used_ += sizeof(IndexedToken) + token.size() + value.size();
+    used_ += (kAlignment - used_ % kAlignment) % kAlignment;
+    return *stored;
+}
+
+const IndexedToken* TokenIndex::At(const Slot& slot) const {
+    return slot.place == 0
+               ? nullptr
+               : reinterpret_cast<const IndexedToken*>(memory_.get() + slot.place * kAlignment);
 }
 
 std::size_t TokenIndex::FindSlot(std::string_view token, std::uint32_t hash) const {
     const std::size_t mask = slots_.size() - 1;
     std::size_t slot = hash & mask;
-    while (slots_[slot].first != 0 &&
-           (slots_[slot].hash != hash || Token(slots_[slot].first) != token))
+    while (slots_[slot].place != 0 &&
+           (slots_[slot].hash != hash || At(slots_[slot])->Token() != token))
         slot = (slot + 1) & mask;
     return slot;
 }
 
-void TokenIndex::AddGroup(TokenNumber number) {
-    const std::uint32_t hash = Hash(Token(number));
-    Slot& slot = slots_[FindSlot(Token(number), hash)];
-    At(number).nextAlike = slot.first;
-    slot = {hash, number};
+void TokenIndex::AddGroup(IndexedToken& token) {
+    const std::uint32_t hash = Hash(token.Token());
+    Slot& slot = slots_[FindSlot(token.Token(), hash)];
+    token.nextAlike_ = At(slot);
+    const auto offset = reinterpret_cast<std::byte*>(&token) - memory_.get();
+    slot = {hash, static_cast<std::uint32_t>(static_cast<std::size_t>(offset) / kAlignment)};
 }
 
-TokenNumber TokenIndex::FindGroup(std::string_view group, TokenNumber after) const {
-    TokenNumber number = slots_[FindSlot(group, Hash(group))].first;
-    while (number != 0 && number <= after)
-        number = At(number).nextAlike;
-    return number;
+const IndexedToken* TokenIndex::FindGroup(std::string_view group, TokenNumber after) const {
+    const IndexedToken* token = At(slots_[FindSlot(group, Hash(group))]);
+    while (token != nullptr && token->number_ <= after)
+        token = token->nextAlike_;
+    return token;
 }
 
 }  // namespace cvlang

@@ -1,7 +1,9 @@
 // A language's tokens, prepared for finding them in pages.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,8 +13,34 @@ namespace cvlang {
 /// What every placeholder begins with. Lines without it are never looked at.
 inline constexpr std::string_view kPlaceholderPrefix = "[CV_TXT-";
 
-/// Tokens are known by their index in the array, from 1; 0 stands for none.
+/// Tokens are known by their index in the array, from 1.
 using TokenNumber = std::int32_t;
+
+/// A token as it is looked for and put into pages. Its two texts follow it in memory: looking a
+/// placeholder up costs what it takes to fetch this one place.
+class IndexedToken {
+  public:
+    TokenNumber Number() const { return number_; }
+    std::string_view Token() const { return {Texts(), tokenLength_}; }
+    std::string_view Value() const { return {Texts() + tokenLength_, valueLength_}; }
+    /// Whether the value looks different inside a script.
+    bool HasQuotes() const { return hasQuotes_; }
+    /// Whether it matters in which order this token and others are replaced: its value may bring a
+    /// placeholder of its own, or it is no placeholder, which is replaced only while placeholders
+    /// are left on the line.
+    bool DependsOnOrder() const { return dependsOnOrder_; }
+
+  private:
+    friend class TokenIndex;
+    const char* Texts() const { return reinterpret_cast<const char*>(this + 1); }
+
+    const IndexedToken* nextAlike_;  // the next token of the same text
+    TokenNumber number_;
+    std::uint32_t tokenLength_;
+    std::uint32_t valueLength_;
+    bool hasQuotes_;
+    bool dependsOnOrder_;
+};
 
 class TokenIndex {
   public:
@@ -21,57 +49,36 @@ class TokenIndex {
     TokenIndex(const std::vector<std::u16string>& arrTokens,
                const std::vector<std::u16string>& arrValues);
 
-    TokenNumber UpperBound() const { return static_cast<TokenNumber>(entries_.size()) - 1; }
-    std::string_view Token(TokenNumber number) const {
-        return {text_.data() + At(number).start, At(number).tokenLength};
-    }
-    std::string_view Value(TokenNumber number) const {
-        return {text_.data() + At(number).start + At(number).tokenLength, At(number).valueLength};
-    }
-    /// Whether the value looks different inside a script.
-    bool HasQuotes(TokenNumber number) const { return At(number).hasQuotes; }
-    /// Whether it matters in which order this token and others are replaced: its value may bring a
-    /// placeholder of its own, or it is no placeholder, which is replaced only while placeholders
-    /// are left on the line.
-    bool DependsOnOrder(TokenNumber number) const { return At(number).dependsOnOrder; }
+    TokenNumber UpperBound() const { return upperBound_; }
 
     /// The first token behind `after` whose text is this group, a text from "[" to "]" without
-    /// further brackets.
-    TokenNumber FindGroup(std::string_view group, TokenNumber after) const;
+    /// further brackets; null when there is none.
+    const IndexedToken* FindGroup(std::string_view group, TokenNumber after) const;
 
     /// Tokens that are not such a group, in order. They have to be searched for one by one.
-    const std::vector<TokenNumber>& IrregularTokens() const { return irregular_; }
+    const std::vector<const IndexedToken*>& IrregularTokens() const { return irregular_; }
     /// Blank lines of the map file, in order.
     const std::vector<TokenNumber>& EmptyTokens() const { return empty_; }
 
   private:
-    // Entries and slots are kept small: looking a placeholder up costs what it takes to fetch them
-    // from memory.
-    struct Entry {
-        std::size_t start = 0;  // of the token in text_; its value follows it
-        std::uint32_t tokenLength = 0;
-        std::uint32_t valueLength = 0;
-        TokenNumber nextAlike = 0;  // the next token of the same text
-        bool hasQuotes = false;
-        bool dependsOnOrder = false;
-    };
     struct Slot {
         std::uint32_t hash = 0;
-        TokenNumber first = 0;
+        std::uint32_t place = 0;  // of the first token with this text, in units of its alignment
     };
 
-    const Entry& At(TokenNumber number) const { return entries_[static_cast<std::size_t>(number)]; }
-    Entry& At(TokenNumber number) { return entries_[static_cast<std::size_t>(number)]; }
+    const IndexedToken* At(const Slot& slot) const;
     std::size_t FindSlot(std::string_view token, std::uint32_t hash) const;
     void Add(TokenNumber number, std::u16string_view token, std::u16string_view value);
-    void AddGroup(TokenNumber number);
+    IndexedToken& Store(TokenNumber number, std::string_view token, std::string_view value);
+    void AddGroup(IndexedToken& token);
 
-    std::vector<std::uint8_t> encoded_;  // the value at hand
-    std::string text_;                   // all tokens and values, one after the other
-    std::vector<Entry> entries_;
-    std::vector<Slot> slots_;  // a power of two, at least half of them free
-    std::vector<TokenNumber> irregular_;
+    TokenNumber upperBound_;
+    std::unique_ptr<std::byte[]> memory_;  // all tokens with their texts, one after the other
+    std::size_t used_;
+    std::vector<Slot> slots_;  // a power of two, at least a fifth of them free
+    std::vector<const IndexedToken*> irregular_;
     std::vector<TokenNumber> empty_;
+    std::vector<std::uint8_t> encoded_;  // the value at hand
 };
 
 }  // namespace cvlang
