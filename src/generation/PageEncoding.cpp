@@ -33,15 +33,19 @@ std::string BytesToString(const std::vector<std::uint8_t>& bytInput) {
 }
 
 std::string EscapeForScript(std::string_view sText) {
-    const auto isQuote = [](char c) { return c == '\'' || c == '"'; };
     std::string escaped;
-    escaped.reserve(sText.size() + 8);
-    for (auto from = sText.begin();;) {
-        const auto quote = std::find_if(from, sText.end(), isQuote);
-        escaped.append(from, quote);
-        if (quote == sText.end())
-            return escaped;
-        escaped += {'\\', *quote};
+    AppendEscapedForScript(sText, escaped);
+    return escaped;
+}
+
+void AppendEscapedForScript(std::string_view text, std::string& output) {
+    const auto isQuote = [](char c) { return c == '\'' || c == '"'; };
+    for (auto from = text.begin();;) {
+        const auto quote = std::find_if(from, text.end(), isQuote);
+        output.append(from, quote);
+        if (quote == text.end())
+            return;
+        output += {'\\', *quote};
         from = quote + 1;
     }
 }

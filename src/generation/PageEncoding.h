@@ -22,5 +22,7 @@ std::string BytesToString(const std::vector<std::uint8_t>& bytInput);
 /// The text with a backslash before every "'" and every quotation mark; backslashes in the text
 /// stay as they are.
 std::string EscapeForScript(std::string_view sText);
+/// The same at the end of another text.
+void AppendEscapedForScript(std::string_view text, std::string& output);
 
 }  // namespace cvlang

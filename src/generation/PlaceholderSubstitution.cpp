@@ -169,7 +169,7 @@ const IndexedToken* PlaceholderSubstitution::ReplaceGroups(const Line& line, std
                                                            std::string& output) {
     std::size_t copied = 0;
     bool behindOpenBracket = false;
-    std::size_t open = text.find('[');
+    std::size_t open = text.starts_with('[') ? 0 : text.find('[');
     while (open != std::string_view::npos) {
         const std::size_t close = FindBracketBehind(text, open);
         if (close == text.size())
@@ -219,7 +219,7 @@ std::string PlaceholderSubstitution::ReplaceToken(const Line& line, std::string_
 void PlaceholderSubstitution::AppendValue(const Line& line, const IndexedToken& token,
                                           std::string& output) {
     if (token.HasQuotes() && line.script.IsScript(line.end)) {
-        output += EscapeForScript(token.Value());
+        AppendEscapedForScript(token.Value(), output);
     } else {
         output += token.Value();
     }

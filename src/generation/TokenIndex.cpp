@@ -12,20 +12,28 @@
 namespace cvlang {
 namespace {
 
-/// Eight bytes at a time. The last product spreads what differs, mostly a few letters, over the
-/// bits that are used.
+std::uint64_t EightBytes(const char* from) {
+    std::uint64_t bytes = 0;
+    std::memcpy(&bytes, from, sizeof bytes);
+    return bytes;
+}
+
+/// Eight bytes at a time, the last ones overlapping. The last product spreads what differs, mostly
+/// a few letters, over the bits that are used.
 std::uint32_t Hash(std::string_view text) {
     constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15;
     std::uint64_t hash = text.size();
-    while (text.size() >= 8) {
-        std::uint64_t chunk = 0;
-        std::memcpy(&chunk, text.data(), 8);
+    const auto add = [&hash](std::uint64_t chunk) {
         hash = (std::rotl(hash, 23) ^ chunk) * kFactor;
-        text.remove_prefix(8);
+    };
+    if (text.size() < 8) {
+        for (const char c : text)
+            add(static_cast<unsigned char>(c));
+    } else {
+        for (std::size_t i = 0; i + 8 < text.size(); i += 8)
+            add(EightBytes(text.data() + i));
+        add(EightBytes(text.data() + text.size() - 8));
     }
-    std::uint64_t rest = 0;
-    std::memcpy(&rest, text.data(), text.size());
-    hash = (std::rotl(hash, 23) ^ rest) * kFactor;
     hash = (hash ^ (hash >> 32)) * kFactor;
     return static_cast<std::uint32_t>(hash >> 32);
 }
