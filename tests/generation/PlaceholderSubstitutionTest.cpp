@@ -68,13 +68,16 @@ TEST(PlaceholderSubstitution, ValuesAreEscapedOnScriptLinesOnly) {
         {"<script a></script>", ScriptMode::Tracked, false},
         {"</script><script a>", ScriptMode::Tracked, false},
         {"</script>\r\n" + std::string(700, '<') + "<script a>\r\n", ScriptMode::Tracked, true},
-        {std::string(253, 'x') + "<script a>\r\n", ScriptMode::Tracked, true},
         {"x\r\n</script\r\n<script\r\n", ScriptMode::Tracked, false},
     };
     for (const auto& [before, mode, isEscaped] : cases) {
         const std::string text =
             Substitute(before + "[CV_TXT-A]", Texts(tokens), values, mode).text;
         EXPECT_EQ(text, before + (isEscaped ? escaped : plain));
+    }
+    for (std::size_t column = 240; column < 270; ++column) {  // wherever blocks of a page end
+        const std::string before = std::string(column, 'x') + "<Script a>" + std::string(600, 'y');
+        EXPECT_EQ(Substitute(before + "[CV_TXT-A]", tokens, values).text, before + escaped);
     }
 }
 
