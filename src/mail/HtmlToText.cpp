@@ -1,0 +1,48 @@
+#include "mail/HtmlToText.h"
+
+#include "mail/IgnoringCase.h"
+#include "mail/TagRemoval.h"
+
+namespace cvlang {
+namespace {
+
+constexpr std::string_view kLineBreak = "\r\n";
+
+/// Up to the first ">" behind the start tag, which is the end of the end tag.
+std::string WithoutTitle(const std::string& text) {
+    constexpr std::string_view kStart = "<title>";
+    const std::size_t start = FindIgnoringCase(text, kStart);
+    if (start == std::string::npos)
+        return text;
+    const std::size_t end = text.find('>', start + kStart.size());
+    if (end == std::string::npos)
+        return text;
+    return ReplaceIgnoringCase(text, text.substr(start, end + 1 - start), "");
+}
+
+/// Takes out the first such block and every other one that reads the same.
+std::string WithoutBlock(const std::string& text, std::string_view startTag,
+                         std::string_view endTag) {
+    const std::size_t start = FindIgnoringCase(text, startTag);
+    if (start == std::string::npos)
+        return text;
+    const std::size_t end = FindIgnoringCase(text, endTag, start);
+    if (end == std::string::npos)
+        return text;
+    return ReplaceIgnoringCase(text, text.substr(start, end + endTag.size() - start), "");
+}
+
+}  // namespace
+
+std::string HTMLToText(std::string_view html, LineBreaks lineBreaks) {
+    std::string text = ReplaceIgnoringCase(html, kLineBreak, "");
+    text = WithoutTitle(text);
+    text = WithoutBlock(text, "<style", "</style>");
+    text = WithoutBlock(text, "<script", "</script>");
+    text = ReplaceIgnoringCase(text, "<br>", kLineBreak);
+    text = ReplaceIgnoringCase(text, "&nbsp;", " ");
+    text = RemoveTags(text);
+    return lineBreaks == LineBreaks::Kept ? text : ReplaceIgnoringCase(text, kLineBreak, "<BR>");
+}
+
+}  // namespace cvlang

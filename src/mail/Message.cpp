@@ -1,0 +1,145 @@
+#include "mail/Message.h"
+
+#include <utility>
+
+#include "config/TextHelpers.h"
+#include "mail/AddressList.h"
+#include "mail/Base64.h"
+#include "mail/MailDate.h"
+#include "mail/MailError.h"
+#include "mail/MessageBody.h"
+#include "mail/MessageHeaders.h"
+#include "mail/MimeNames.h"
+#include "mail/SmtpDialogue.h"
+#include "platform/Ansi.h"
+#include "platform/FolderListing.h"
+
+namespace cvlang {
+namespace {
+
+/// What looking up an empty file name comes to.
+bool CurrentFolderHoldsAFile() {
+    return !ListFolder(".").files.empty();
+}
+
+std::string NameInPath(const std::string& file) {
+    constexpr char kPathSeparator = static_cast<char>(std::filesystem::path::preferred_separator);
+    return file.substr(file.rfind(kPathSeparator) + 1);
+}
+
+}  // namespace
+
+Message::Message(const Configuration& config, const Logs& logs, MailSurroundings surroundings)
+    : config_(config), logs_(logs), surroundings_(std::move(surroundings)) {}
+
+void Message::AddHeader(std::string_view sHeader) {
+    if (!sHeader.empty())
+        extraHeaders_.append(sHeader).append(kLineEnd);
+}
+
+void Message::ClearHeaders() {
+    extraHeaders_.clear();
+}
+
+void Message::AddAttachment(const std::string& Filename, const std::string& name) {
+    if (Trimmed(Filename).empty()) {
+        ErrorString = "You must specify a filename for the attachment.";
+        throw MailError(MailErrorNumber::Incomplete, "AddAttachment", ErrorString);
+    }
+    attachments_.push_back({Filename, name.empty() ? NameInPath(Filename) : name});
+}
+
+void Message::ClearAttachments() {
+    attachments_.clear();
+}
+
+void Message::SetDefault() {
+    MessageFields empty;
+    empty.NoEventLog = NoEventLog;
+    empty.MIMEEncode = MIMEEncode;
+    empty.HTML = HTML;
+    empty.ServerPort = kSmtpPort;
+    static_cast<MessageFields&>(*this) = std::move(empty);
+    ClearHeaders();
+    ClearAttachments();
+}
+
+std::string Message::EncodeByteArr(std::string_view bytInput) {
+    return Base64::EncodeByteArr(bytInput);
+}
+
+int Message::SendMessage() {
+    try {
+        return Send() ? 1 : 0;
+    } catch (const MailError& error) {
+        ErrorString = error.Description();
+        LogActivity(ErrorString);
+        return 0;
+    }
+}
+
+bool Message::Send() {
+    if (MailFrom.empty())
+        throw MailError(MailErrorNumber::Incomplete, "SendMessage", "No From: address given");
+    if (MailTo.empty())
+        throw MailError(MailErrorNumber::Incomplete, "SendMessage", "No To: address given");
+    std::string text = ComposeText();
+    const SocketsSession sockets;
+    SmtpDialogue dialogue(*this, GetHeloDomainName(), surroundings_,
+                          [this](std::string_view line) { LogActivity(line); });
+    return dialogue.Deliver(MergedAddresses({MailTo, MailCC, MailBCC}), std::move(text));
+}
+
+std::string Message::ComposeText() {
+    const MimeForm form = FormOfHeaders();
+    if (form != MimeForm::SinglePart && boundary_.empty())
+        boundary_ = NewMIMEBoundary(surroundings_.newGuid);
+    const BodyDetails body = DetailsOfBody();
+    std::string text =
+        HeaderBlock(*this, {FormatMailDate(surroundings_.clock(), surroundings_.timeZone()),
+                            NewMessageFileName(surroundings_.newGuid) + "@" + GetHeloDomainName(),
+                            extraHeaders_, form, boundary_});
+    text.reserve(text.size() + EstimatedBodySize(*this, body));
+    AppendBody(text, *this, body);
+    return text;
+}
+
+BodyDetails Message::DetailsOfBody() const {
+    BodyDetails body{attachments_, "name", boundary_, {}};
+    if (attachments_.empty() && !AttachmentFileName.empty()) {
+        body.attachments = {{AttachmentFileName, Attachmentname}};
+        body.nameParameter = "Name";  // meant, like the other spellings
+    }
+    if (!body.attachments.empty() && HasHtmlBody())
+        body.innerBoundary = NewMIMEBoundary(surroundings_.newGuid);
+    return body;
+}
+
+/// Without attachments this looks an empty file name up. Where that finds nothing, the headers
+/// announce attachments all the same. Meant: messages have always gone out so, and their readers
+/// cope with both.
+MimeForm Message::FormOfHeaders() const {
+    if (!attachments_.empty() || !AttachmentFileName.empty())
+        return MimeForm::Mixed;
+    if (!CurrentFolderHoldsAFile()) {
+        LogActivity("Attachment (" + AttachmentFileName + ") Not Found");
+        return MimeForm::Mixed;
+    }
+    return HasHtmlBody() ? MimeForm::Alternative : MimeForm::SinglePart;
+}
+
+std::string Message::GetHeloDomainName() const {
+    if (!LocalDomainName.empty())
+        return LocalDomainName;
+    const std::u16string configured = config_.GetLocalDomainName();
+    return Utf16ToAnsi(configured.empty() ? GetLocalComputerName() : configured);
+}
+
+void Message::LogActivity(std::string_view line) const {
+    if (NoEventLog)
+        return;
+    // A log that cannot be written must not keep mail from going out.
+    [[maybe_unused]] const std::error_code ignored = logs_.LogTranslationEvent(AnsiToUtf16(line));
+}
+
+}  // namespace cvlang

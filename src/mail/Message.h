@@ -1,0 +1,62 @@
+// A mail message that sends itself: fill in the fields, add attachments, call SendMessage.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "config/Configuration.h"
+#include "config/Logs.h"
+#include "mail/MailSurroundings.h"
+#include "mail/MessageBody.h"
+#include "mail/MessageFields.h"
+#include "mail/MessageHeaders.h"
+
+// The Windows headers have a macro of this name, which would give the class another operation in
+// some files.
+#undef SendMessage
+
+namespace cvlang {
+
+class Message : public MessageFields {
+  public:
+    /// The configuration and the logs must outlive the message.
+    Message(const Configuration& config, const Logs& logs, MailSurroundings surroundings = {});
+
+    /// Adds a line to the header block; an empty one is passed over.
+    void AddHeader(std::string_view sHeader);
+    void ClearHeaders();
+
+    /// Without a name the attachment is called as its file. Raises an error when no file is named.
+    void AddAttachment(const std::string& Filename, const std::string& name);
+    void ClearAttachments();
+
+    /// Empties everything but the three flags, and sets the port to the usual one.
+    void SetDefault();
+
+    static std::string EncodeByteArr(std::string_view bytInput);
+
+    /// Composes and delivers the message: 1 when the server took it, otherwise 0. ErrorString tells
+    /// more.
+    int SendMessage();
+
+    /// The message as it goes over the wire.
+    std::string ComposeText();
+
+  private:
+    bool Send();
+    MimeForm FormOfHeaders() const;
+    BodyDetails DetailsOfBody() const;
+    std::string GetHeloDomainName() const;
+    void LogActivity(std::string_view line) const;
+
+    const Configuration& config_;
+    const Logs& logs_;
+    MailSurroundings surroundings_;
+    std::string extraHeaders_;
+    std::vector<Attachment> attachments_;
+    std::string boundary_;  // made once and kept, also for a message that is sent again
+};
+
+}  // namespace cvlang

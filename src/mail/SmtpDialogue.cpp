@@ -1,0 +1,149 @@
+#include "mail/SmtpDialogue.h"
+
+#include <cstdlib>
+#include <utility>
+
+#include "mail/Base64.h"
+#include "mail/MailError.h"
+#include "mail/SmtpReply.h"
+#include "mail/SmtpReplyCodes.h"
+
+namespace cvlang {
+namespace {
+
+constexpr int kAuthLogin = 1;
+
+/// 0 when the first send took nothing. A failure is left to the wait for the reply to find.
+std::ptrdiff_t SendAll(SocketHandle socket, std::string_view bytes) {
+    const std::ptrdiff_t first = SendBytes(socket, bytes);
+    for (std::ptrdiff_t sent = first; sent > 0; sent = SendBytes(socket, bytes)) {
+        bytes.remove_prefix(static_cast<std::size_t>(sent));
+        if (bytes.empty())
+            break;
+    }
+    return first;
+}
+
+}  // namespace
+
+std::string SMTPProcessClientCommand(SocketHandle socket, std::string_view command,
+                                     std::string_view replyCodeSet, const Clock& clock) {
+    const LocalTime start = clock();
+    const bool tookNothing = !command.empty() && SendAll(socket, command) == 0;
+    if (replyCodeSet.empty())
+        return {};
+    if (tookNothing)
+        return std::string(replies::kGeneralError);
+    return WaitForReply(socket, replyCodeSet, clock, start);
+}
+
+SmtpDialogue::SmtpDialogue(MessageFields& message, std::string heloName,
+                           const MailSurroundings& surroundings, Log log)
+    : message_(message),
+      heloName_(std::move(heloName)),
+      surroundings_(surroundings),
+      log_(std::move(log)),
+      server_(message.Server.empty() ? "localhost" : message.Server) {}
+
+bool SmtpDialogue::Deliver(const std::vector<std::string>& recipients, std::string text) {
+    if (!SMTPConnect())
+        return false;
+    Hello();
+    Authenticate();
+    NameSender();
+    NameRecipients(recipients);
+    const std::string code = TransferText(std::move(text));
+    Command("QUIT", replies::kNone);
+    connection_.Close();
+    return Report(code);
+}
+
+bool SmtpDialogue::SMTPConnect() {
+    if (message_.ServerPort == 0)
+        message_.ServerPort = kSmtpPort;
+    connection_.Open(
+        ConnectToHost(server_, message_.ServerPort, surroundings_.processPendingEvents));
+    if (!connection_.IsOpen())
+        throw MailError(MailErrorNumber::Connect, "SMTPConnect",
+                        "Failed to connect to mail server: Windows Sockets error " +
+                            std::to_string(LastSocketError()));
+    const std::string code =
+        SMTPProcessClientCommand(connection_.Socket(), "", replies::kGreeting, surroundings_.clock);
+    if (code == replies::kGreeted)
+        return true;
+    message_.ErrorString = "SMTP Server is not contactable for domain: " + server_;
+    log_(message_.ErrorString);
+    return false;
+}
+
+void SmtpDialogue::Hello() {
+    [[maybe_unused]] const std::string ignored = Command("HELO " + heloName_, replies::kHelo);
+}
+
+void SmtpDialogue::Authenticate() {
+    if (message_.AuthenticationMode != kAuthLogin || message_.Username.empty() ||
+        message_.Password.empty())
+        return;
+    std::string code =
+        Command("AUTH LOGIN " + Base64::EncodeString(message_.Username), replies::kAuth);
+    // Any code asks for the password, one of refusal too: old servers refuse the name on the
+    // command's own line and still wait for what follows it.
+    if (std::atoi(code.c_str()) != 0)
+        code = Command(Base64::EncodeString(message_.Password), replies::kAuth);
+    if (replies::IsIn(replies::kAuthRefused, code))
+        throw MailError(MailErrorNumber::Refused, "AUTH",
+                        "Could not Authenticate against remote host; Server returned: " + code);
+}
+
+void SmtpDialogue::NameSender() {
+    const std::string code = Command("MAIL FROM:<" + message_.MailFrom + ">", replies::kMail);
+    if (replies::IsIn(replies::kMailRefused, code))
+        throw MailError(
+            MailErrorNumber::Refused, "MAIL",
+            "Invalid Sender Address (" + message_.MailFrom + "); Server returned: " + code);
+}
+
+void SmtpDialogue::NameRecipients(const std::vector<std::string>& recipients) {
+    bool accepted = false;
+    for (const std::string& recipient : recipients) {
+        lastRecipient_ = recipient;
+        const std::string code = Command("RCPT TO:<" + recipient + ">", replies::kRcpt);
+        if (replies::IsIn(replies::kRcptRefused, code))
+            log_("Recipient failed to server " + Route());
+        else
+            accepted = true;
+    }
+    if (!accepted)
+        throw MailError(MailErrorNumber::NoRecipient, "RCPT",
+                        "Could not send to any valid recipients");
+}
+
+std::string SmtpDialogue::TransferText(std::string text) {
+    // A server that said nothing in time gets the text, too: some answer only once it comes.
+    if (!replies::IsIn(replies::kDataInvited, Command("DATA", replies::kData)))
+        return {};
+    return Command(std::move(text.append("\r\n.")), replies::kEndOfMessage);
+}
+
+bool SmtpDialogue::Report(std::string_view code) {
+    const bool delivered = !code.empty() && replies::IsIn(replies::kDelivered, code);
+    message_.ErrorString =
+        delivered ? "Sent email to " + Route()
+                  : "Failed to send email to " + Route() +
+                        ". For more information, please check your SMTP Debug and Activity Logs";
+    log_(message_.ErrorString);
+    return delivered;
+}
+
+std::string SmtpDialogue::Command(std::string line, std::string_view replyCodeSet) {
+    return SMTPProcessClientCommand(connection_.Socket(), line.append(kLineEnd), replyCodeSet,
+                                    surroundings_.clock);
+}
+
+std::string SmtpDialogue::Route() const {
+    constexpr std::size_t kMost = 50;
+    return "(" + server_ + ") Msg From: " + message_.MailFrom.substr(0, kMost) +
+           " Msg To: " + lastRecipient_.substr(0, kMost);
+}
+
+}  // namespace cvlang

@@ -1,0 +1,47 @@
+// TCP over IPv4, as far as Windows and Linux differ about it. Failures are told by number, as the
+// system numbers them.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace cvlang {
+
+using SocketHandle = std::intptr_t;
+inline constexpr SocketHandle kNoSocket = -1;
+
+/// Windows wants its sockets library started and cleaned up; on Linux there is nothing to do. 0 on
+/// success.
+int StartSocketLibrary();
+int StopSocketLibrary();
+
+/// The number of the last failure, and a way to set it back after further calls.
+int LastSocketError();
+void SetLastSocketError(int number);
+
+/// An address as it goes over the wire.
+using AddressNumber = std::uint32_t;
+
+/// The address that a text in numbers and dots stands for; nothing when it is none.
+std::optional<AddressNumber> AddressFromNumbers(const std::string& text);
+/// The bytes of a host's first address, looked up by name; empty when it has none.
+std::string FirstAddressOfHost(const std::string& name);
+
+SocketHandle OpenTcpSocket();
+/// Waits until the connection stands. 0 on success.
+int ConnectSocket(SocketHandle socket, AddressNumber address, std::uint16_t port);
+int CloseSocket(SocketHandle socket);
+
+/// Sends some or all of the bytes and returns how many; negative on failure. A peer that is gone is
+/// a failure, never a signal that ends the program.
+std::ptrdiff_t SendBytes(SocketHandle socket, std::string_view bytes);
+/// How many bytes have come and can be received without waiting.
+std::size_t WaitingBytes(SocketHandle socket);
+/// Receives up to so many bytes; negative on failure. Asked for none, it returns 0 at once and on
+/// both systems still tells when the peer has reset the connection.
+std::ptrdiff_t ReceiveBytes(SocketHandle socket, char* to, std::size_t count);
+
+}  // namespace cvlang

@@ -1,0 +1,145 @@
+#include "mail/SmtpDialogue.h"
+
+#include <gtest/gtest.h>
+
+#include "MailFixture.h"
+#include "ScriptedPeer.h"
+#include "mail/SmtpReply.h"
+
+namespace cvlang {
+namespace {
+
+const std::string kSent = "Sent email to (127.0.0.1) Msg From: f@here Msg To: ";
+const std::string kFailed = "Failed to send email to (127.0.0.1) Msg From: f@here Msg To: t@x";
+const std::string kFailedEnd =
+    ". For more information, please check your SMTP Debug and Activity Logs";
+const std::string kNoGreeting = "SMTP Server is not contactable for domain: 127.0.0.1";
+const std::string kNoAccess = "Could not Authenticate against remote host; Server returned: ";
+const std::string kNoSender = "Invalid Sender Address (f@here); Server returned: ";
+const std::string kNoRecipient = "Could not send to any valid recipients";
+
+/// A message on its way to a scripted peer.
+struct Delivery : ScriptedPeer, MailFixture {
+    explicit Delivery(const std::string& script, Ending ending = Ending::Listen)
+        : ScriptedPeer(script, ending), MailFixture(ClientsClock()) {
+        message.Server = "127.0.0.1";
+        message.ServerPort = Port();
+    }
+
+    /// What the client sent, with "|" for a line's end and "#" for the message.
+    std::string Conversation() {
+        std::string text = Received();
+        guids = 0;
+        text = Replaced(text, message.ComposeText() + "\r\n.\r\n", "#|");
+        return Replaced(text, "\r\n", "|");
+    }
+};
+
+TEST(SmtpDialogue, EveryReplyLeadsToItsConversation) {
+    const std::string helo = "HELO me|", named = helo + "AUTH LOGIN dXNlcg==|";
+    const std::string login = named + "cGFzcw==|", mail = "MAIL FROM:<f@here>|";
+    const std::string rcpt = helo + mail + "RCPT TO:<t@x>|", all = rcpt + "DATA|#|QUIT|";
+    const std::string three = rcpt + "RCPT TO:<c@x>|RCPT TO:<b@x>|";
+    const std::string address(60, 'a');
+    const struct {
+        std::string to, script, conversation, outcome;
+    } cases[] = {
+        {"t@x", "220|250|250|250|354|250", all, kSent + "t@x"},
+        {"t@x", std::string(1, '\0') + "220" + '\0' + "|250|250|250|354|250", all, kSent + "t@x"},
+        {"t@x", "421 220|500||250", helo + mail, kNoSender},
+        {"t@x", "421 closed", "", kNoGreeting},
+        {"t@x", "220||250|250|354|250", all, kSent + "t@x"},
+        {"t@x", "220|250|552", helo + mail, kNoSender + "552"},
+        {"t@x", "220|250|250|550-a\r\n250 b|354|250", all, kSent + "t@x"},
+        {"t@x", "220|250|250|250|554", rcpt + "DATA|QUIT|", kFailed + kFailedEnd},
+        {"t@x", "220|250|250|250|250", rcpt + "DATA|QUIT|", kFailed + kFailedEnd},
+        {"t@x", "220|250|250|250||250", all, kSent + "t@x"},
+        {"t@x", "220|250|250|250|354|451", all, kFailed + kFailedEnd},
+        {"t@x", "220|250|250|250|354|", all, kFailed + kFailedEnd},
+        {"t@x;c@x", "220|250|250|550|251||354|250", three + "DATA|#|QUIT|", kSent + "b@x"},
+        {"t@x;c@x", "220|250|250|550|450|", three, kNoRecipient},
+        {address, "220|250|250|250|354|250", helo + mail + "RCPT TO:<" + address + ">|DATA|#|QUIT|",
+         kSent + address.substr(0, 50)},
+        {"user", "220|250|334|235|552", login + mail, kNoSender + "552"},
+        {"user", "220|250|500|552|552", login + mail, kNoSender + "552"},
+        {"user", "220|250|334|504", login, kNoAccess + "504"},
+        {"user", "220|250|334|", login, kNoAccess},
+        {"user", "220|250|", named, kNoAccess},
+    };
+    for (const auto& [to, script, conversation, outcome] : cases) {
+        Delivery delivery(script);
+        delivery.message.MailTo = to;
+        delivery.message.MailBCC = to == "t@x;c@x" ? "T@X;b@x" : "";
+        delivery.message.AuthenticationMode = to == "user" ? 1 : 0;
+        delivery.message.Username = "user";
+        delivery.message.Password = "pass";
+        const bool sent = outcome.rfind(kSent, 0) == 0;
+        EXPECT_EQ(delivery.message.SendMessage(), sent ? 1 : 0);
+        EXPECT_EQ(delivery.message.ErrorString, outcome);
+        EXPECT_TRUE(delivery.fake.ErrorLog().ends_with("\t" + outcome + "\r\n"));
+        EXPECT_EQ(
+            delivery.fake.ErrorLog().find("\tRecipient failed to server (127.0.0.1) Msg From: "
+                                          "f@here Msg To: t@x\r\n") != std::string::npos,
+            to == "t@x;c@x");
+        EXPECT_EQ(delivery.Conversation(), conversation);
+        EXPECT_EQ(delivery.eventsProcessed, 1);
+    }
+}
+
+TEST(SmtpDialogue, APeerThatIsGoneNeverEndsTheProgram) {
+    const std::string script = "220|250|250|250|354|250";
+    const std::string timedOut[] = {
+        kNoGreeting,          kNoSender,           kNoSender, kNoRecipient,
+        kFailed + kFailedEnd, kFailed + kFailedEnd};
+    for (std::size_t stage = 0; stage < std::size(timedOut); ++stage) {
+        for (const Ending ending : {Ending::Close, Ending::Reset}) {
+            Delivery delivery(script.substr(0, stage == 0 ? 0 : stage * 4 - 1), ending);
+            EXPECT_EQ(delivery.message.SendMessage(), 0);
+            const std::string& outcome = delivery.message.ErrorString;
+            const bool told = outcome.rfind("Windows Sockets error 1", 0) == 0;
+            const bool mustBeTold = ending == Ending::Reset && kTellsEveryReset;
+            EXPECT_TRUE(told || (outcome == timedOut[stage] && !mustBeTold)) << stage;
+            EXPECT_TRUE(delivery.fake.ErrorLog().ends_with("\t" + outcome + "\r\n"));
+        }
+    }
+    Delivery delivery("220|250|250|250|354", Ending::ResetAtOnce);
+    delivery.message.MessageBody.assign(20000000, 'x');
+    EXPECT_EQ(delivery.message.SendMessage(), 0);
+}
+
+TEST(SmtpDialogue, AServerThatCannotBeReachedIsReported) {
+    MailFixture mail;
+    mail.message.ServerPort = LoopbackListener().Port();
+    for (const char* server : {"127.0.0.1", "", "no-such-host.invalid"}) {
+        mail.message.Server = server;
+        EXPECT_EQ(mail.message.SendMessage(), 0);
+        EXPECT_EQ(mail.message.ErrorString.rfind(
+                      "Failed to connect to mail server: Windows Sockets error 1", 0),
+                  0U);
+    }
+    EXPECT_EQ(mail.eventsProcessed, 2);
+}
+
+TEST(SmtpReply, TheSetsOrderDecidesAmongTheCodesSoFar) {
+    const auto found = [](std::string_view set, const std::vector<std::string>& pieces) {
+        ReplyScanner scanner(set);
+        std::string_view code;
+        for (const std::string& piece : pieces)
+            code = scanner.Add(piece);
+        return std::string(code);
+    };
+    EXPECT_EQ(found("250,550", {"550 1250"}), "250");
+    EXPECT_EQ(found("250,550", {"2", "5", "1", "255", "0"}), "550");
+    EXPECT_EQ(found("220", {std::string("2\0", 2), "20"}), "220");
+    EXPECT_EQ(found("220", {std::string("2\0\0", 3), "20"}), "");
+    EXPECT_EQ(found("220,250", std::vector<std::string>(3000000, "22")), "");
+}
+
+TEST(SmtpReply, AWaitEndsWithTheClocksMinute) {
+    const LocalTime start{2004, 2, 28, 23, 59, 59};
+    EXPECT_EQ(MinuteBoundariesBetween(start, {2004, 2, 28, 23, 59, 0}), 0);
+    EXPECT_EQ(MinuteBoundariesBetween(start, {2004, 3, 1, 0, 0, 0}), 24 * 60 + 1);
+}
+
+}  // namespace
+}  // namespace cvlang

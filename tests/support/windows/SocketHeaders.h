@@ -1,0 +1,7 @@
+#pragma once
+
+#include <winsock2.h>
+#include <ws2tcpip.h>
+
+using NativeSocket = SOCKET;
+inline constexpr bool kResetsAreTold = false;
