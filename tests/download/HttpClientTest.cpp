@@ -1,0 +1,78 @@
+#include "download/HttpClient.h"
+
+#include <gtest/gtest.h>
+
+#include <regex>
+
+#include "download/WebPeer.h"
+#include "platform/Ansi.h"
+
+namespace cvlang {
+namespace {
+
+std::string Okay(std::string_view body, std::size_t declared) {
+    return std::string("HTTP/1.0 200 OK\r\nContent-Length: ")
+        .append(std::to_string(declared))
+        .append("\r\n\r\n")
+        .append(body);
+}
+
+/// How often a header stands in a request.
+int Count(const std::string& request, const std::string& header) {
+    int count = 0;
+    for (auto i = request.find(header); i != request.npos; i = request.find(header, i + 1))
+        ++count;
+    return count;
+}
+
+TEST(HttpClient, SendsExactlyTheRequestThatItIsAskedFor) {
+    const std::tuple<std::u16string, std::u16string, int> cases[] = {
+        {u"GET", u"", 0}, {u"POST", u"a=1&b=\u00E9", 1}, {u"post", u"a=1&b=2", 0}};
+    for (const auto& [verb, data, contentTypes] : cases) {
+        WebPeer peer(Okay("x", 1), data.size());
+        SendHttpRequest(u"127.0.0.1", u"/Tools/Web Mail/\u00E9.map", data, verb, peer.Port());
+        // WinINet writes a blank in its own way.
+        const std::string request = std::regex_replace(peer.Request(), std::regex("%20"), " ");
+        EXPECT_EQ(request.substr(0, request.find('\r')),
+                  std::string(verb.begin(), verb.end()) + " /Tools/Web Mail/\xE9.map HTTP/1.0");
+        EXPECT_EQ(Count(request, "User-Agent: http generic\r\n"), 1);
+        EXPECT_EQ(Count(request, "Content-Type: application/x-www-form-urlencoded\r\n"),
+                  contentTypes);
+        EXPECT_EQ(Count(request, "Content-Type"), contentTypes);
+        EXPECT_EQ(request.substr(request.find("\r\n\r\n") + 4), Utf16ToAnsi(data));
+    }
+}
+
+TEST(HttpClient, ReturnsTheBodysBytesWhateverTheyAreAndWhateverTheStatusSays) {
+    std::string all;
+    for (int byte = 0; byte < 256; ++byte)
+        all += static_cast<char>(byte);
+    std::string large(50U << 20U, 'x');
+    large[2048] = '\0';
+    for (const std::string& body : {std::string(), all, large.substr(0, 2047),
+                                    large.substr(0, 2048), large.substr(0, 2049), large}) {
+        WebPeer peer(Okay(body, body.size()));
+        EXPECT_TRUE(HttpGet(u"/", u"127.0.0.1", peer.Port()) == body) << body.size();
+    }
+    WebPeer missing("HTTP/1.0 404 Not Found\r\n\r\ngone");
+    EXPECT_EQ(HttpGet(u"/", u"127.0.0.1", missing.Port()), "gone");
+    WebPeer moved("HTTP/1.0 500 Error\r\nContent-Length: 5\r\n\r\nerror");
+    EXPECT_EQ(HttpGet(u"/", u"localhost", moved.Port()), "error");
+}
+
+TEST(HttpClient, AServerThatCannotBeReachedOrBreaksOffLeavesWhatCame) {
+    WebPeer broken(Okay("half", 8));
+    EXPECT_EQ(HttpGet(u"/", u"127.0.0.1", broken.Port()), "half");
+    WebPeer silent("");
+    EXPECT_EQ(HttpGet(u"/", u"127.0.0.1", silent.Port()), "");
+    std::uint16_t closedPort = 0;
+    {
+        const LoopbackListener listener;
+        closedPort = static_cast<std::uint16_t>(listener.Port());
+    }
+    EXPECT_EQ(HttpGet(u"/", u"127.0.0.1", closedPort), "");
+    EXPECT_EQ(HttpGet(u"/", u"no-such-host.example", closedPort), "");
+}
+
+}  // namespace
+}  // namespace cvlang
