@@ -17,22 +17,6 @@ void Copy(const fs::path& from, const fs::path& to) {
     CopyFoldersOf(from, to);
 }
 
-TEST(FolderCopy, OverwritesAndLeavesWhatOnlyTheTargetHas) {
-    const TemporaryFolder folder;
-    PutFile(folder / "SYS" / "a.asp", "a");
-    PutFile(folder / "SYS" / "in" / "deep" / "b.gif", "b");
-    PutFile(folder / "fr" / "a.asp", "stale");
-    PutFile(folder / "fr" / "in" / "own.asp", "own");
-    SetReadOnly(folder / "SYS" / "a.asp", true);
-    SetReadOnly(folder / "SYS" / "in" / "deep" / "b.gif", true);
-    Copy(folder / "SYS", folder / "fr");
-    EXPECT_EQ(FileBytes(folder / "fr" / "a.asp"), "a");
-    EXPECT_EQ(FileBytes(folder / "fr" / "in" / "deep" / "b.gif"), "b");
-    EXPECT_EQ(FileBytes(folder / "fr" / "in" / "own.asp"), "own");
-    EXPECT_FALSE(IsReadOnly(folder / "fr" / "a.asp"));
-    EXPECT_TRUE(IsReadOnly(folder / "fr" / "in" / "deep" / "b.gif"));
-}
-
 TEST(FolderCopy, ANameThatDiffersOnlyInCaseIsWrittenInto) {
     const TemporaryFolder folder;
     PutFile(folder / "SYS" / "login.asp", "fresh");

@@ -66,6 +66,9 @@ TEST(TokenUpdate, SavesUnderTheTokenOfAListEntryInTheSelectedApplicationsFile) {
     UpdateToken(fake.program, u"default", u"French", u"[cv_TXT-HELLO]: x", u"old names");
     EXPECT_EQ(FileBytes("WebAdmin-default-tokens.fr"),
               Utf16Bytes(u"[cv_TXT-HELLO]: x\told names\r\n"));
+    for (int times = 0; times < 2; ++times)
+        UpdateLanguageTable(fake.program, u"WebMail", u"French", u"fr");
+    EXPECT_EQ(FileBytes("LANGUAGES.TAB"), Utf16Bytes(u"fr\tFrench\r\n"));
 }
 
 }  // namespace

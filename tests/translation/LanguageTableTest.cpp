@@ -5,7 +5,6 @@
 #include "config/TextHelpers.h"
 #include "support/FakeProgram.h"
 #include "translation/Lines.h"
-#include "translation/TokenUpdate.h"
 
 namespace cvlang {
 namespace {
@@ -54,17 +53,6 @@ TEST(LanguageTable, AMissingListFileIsCreatedWithTheDefaultLanguagesWhereThatCan
               (std::vector<std::u16string>{u"B", u"", u"\u00C9"}));
     fake.registry.strings[u"Application Directory"] = TextFromPath(fake.folder / "none");
     EXPECT_TRUE(LoadLanguageList(fake.config, u"WebMail", u"default.net").empty());
-}
-
-TEST(LanguageTable, AGeneratedLanguageIsRecordedOnce) {
-    const FakeProgram fake;
-    UpdateLanguageTable(fake.program, u"WebMail", u"French", u"fr");
-    EXPECT_EQ(FileBytes("LANGUAGES.TAB"), Utf16Bytes(u"fr\tFrench\r\n"));
-    PutFile("LANGUAGES.TAB", Utf16Bytes(u"de\tGerman\r\nfr\tFrancais\r\n"));
-    for (int times = 0; times < 2; ++times)
-        UpdateLanguageTable(fake.program, u"WebAdmin", u"French", u"fr");
-    EXPECT_EQ(FileBytes("LANGUAGES.TAB"), Utf16Bytes(u"de\tGerman\r\nfr\tFrench\r\n"));
-    EXPECT_FALSE(std::filesystem::exists("_LANGUAGES.TAB"));
 }
 
 }  // namespace
