@@ -26,8 +26,8 @@ class SmtpDialogue {
     SmtpDialogue(MessageFields& message, std::string heloName, const MailSurroundings& surroundings,
                  Log log);
 
-    /// Holds the whole conversation and leaves its outcome in the message's ErrorString and the log. True when the server
-    /// took the message; a failure that ends the conversation early is raised as an error.
+    /// Holds the whole conversation and leaves its outcome in the message's ErrorString and the log. True when the
+    /// server took the message; a failure that ends the conversation early is raised as an error.
     bool Deliver(const std::vector<std::string>& recipients, std::string text);
 
   private:

@@ -10,15 +10,15 @@
 
 namespace cvlang {
 
-/// Looks for the codes of a set in a reply that comes in pieces. It keeps no more of the reply than a code that is still
-/// incomplete, however much a server sends.
+/// Looks for the codes of a set in a reply that comes in pieces. It keeps no more of the reply than a code that is
+/// still incomplete, however much a server sends.
 class ReplyScanner {
   public:
     /// The set's codes are separated by commas; it must outlive the scanner.
     explicit ReplyScanner(std::string_view replyCodeSet);
 
-    /// Takes the next piece and returns the first code in the set's order that occurs anywhere in the reply so far, also
-    /// amid other digits; empty when none does. A NUL at the end of a piece is not part of the reply.
+    /// Takes the next piece and returns the first code in the set's order that occurs anywhere in the reply so far,
+    /// also amid other digits; empty when none does. A NUL at the end of a piece is not part of the reply.
     std::string_view Add(std::string_view piece);
 
   private:

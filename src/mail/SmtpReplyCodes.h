@@ -1,5 +1,5 @@
-// The reply codes that the commands of an SMTP conversation wait for: those of success, then those of failure. What stands
-// first in a set wins, whatever comes first in the reply, so the order matters.
+// The reply codes that the commands of an SMTP conversation wait for: those of success, then those of failure. What
+// stands first in a set wins, whatever comes first in the reply, so the order matters.
 #pragma once
 
 #include <string>
@@ -34,8 +34,8 @@ inline constexpr std::string_view kNone;
 /// Returned in a code's place when nothing could be sent. No list contains it, so that it never counts as a refusal.
 inline constexpr std::string_view kGeneralError = "General Error";
 
-/// Whether a code is among a list's. The empty code of a wait that ran out is in every list: the conversation's judgements,
-/// for good and bad, are built on it.
+/// Whether a code is among a list's. The empty code of a wait that ran out is in every list, which is meant: silence is a
+/// refusal wherever refusals are looked for, and an invitation after DATA.
 inline bool IsIn(std::string_view list, std::string_view code) {
     return list.find(code) != std::string_view::npos;
 }

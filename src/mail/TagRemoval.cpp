@@ -1,7 +1,7 @@
 // The result is that of replacing each tag in the whole text before the next one is looked for, which would take time
 // with the square of the text. Here the text is gone through once. What makes that possible: a tag holds one ">", its
-// last character. So an occurrence of an earlier tag is always the end of what lies before some ">", and only that has to
-// be looked at when the ">" comes, provided that the replacements happen in the same order.
+// last character. So an occurrence of an earlier tag is always the end of what lies before some ">", and only that has
+// to be looked at when the ">" comes, provided that the replacements happen in the same order.
 #include "mail/TagRemoval.h"
 
 #include <algorithm>
