@@ -19,9 +19,9 @@ struct BodyDetails {
 /// Roughly how long the body becomes, so that room can be made for it at once.
 std::size_t EstimatedBodySize(const MessageFields& fields, const BodyDetails& details);
 
-/// An attachment that cannot be read has an empty part. Lines that hold nothing but a dot are sent
-/// as they are, although a server takes one for the message's end: the mail server's own tools
-/// build on the text going out unchanged.
+/// An attachment that cannot be read has an empty part. A line that holds nothing but a dot is not
+/// changed, although a server takes it for the message's end: what is composed here is what goes
+/// out, byte by byte.
 void AppendBody(std::string& text, const MessageFields& fields, const BodyDetails& details);
 
 }  // namespace cvlang

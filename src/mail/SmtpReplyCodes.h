@@ -36,8 +36,8 @@ inline constexpr std::string_view kNone;
 /// counts as a refusal.
 inline constexpr std::string_view kGeneralError = "General Error";
 
-/// Whether a code is among a list's. The empty code of a wait that ran out is in every list: the
-/// conversation's judgements, for good and bad, are built on it.
+/// Whether a code is among a list's. The empty code of a wait that ran out is in every list, which
+/// is meant: silence is a refusal wherever refusals are looked for, and an invitation after DATA.
 inline bool IsIn(std::string_view list, std::string_view code) {
     return list.find(code) != std::string_view::npos;
 }

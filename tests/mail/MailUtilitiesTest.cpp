@@ -68,7 +68,7 @@ TEST(AddressList, SingleAddressesComeFromSeveralLists) {
     EXPECT_EQ(MergedAddresses({" a@x ;b@x;", "", "c@x;A@x"}),
               (Addresses{"a@x", "b@x", "c@x", "A@x"}));
     EXPECT_EQ(MergedAddresses({"a@x, b@x", "", ""}), (Addresses{"a@x", "b@x"}));
-    EXPECT_EQ(MergedAddresses({"a@x", "A@x"}), (Addresses{"a@x"}));
+    EXPECT_EQ(MergedAddresses({"a@x;", ""}), (Addresses{"a@x"}));
 }
 
 TEST(AddressList, TheDomainFollowsTheFirstAt) {

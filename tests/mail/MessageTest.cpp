@@ -105,7 +105,11 @@ TEST(Message, EveryContentHasItsLayout) {
 TEST(Message, WithoutAnyFileInTheCurrentFolderAttachmentsAreAnnounced) {
     MailFixture mail;
     std::filesystem::remove(mail.fake.folder / "any");
-    EXPECT_EQ(Shortened(mail.message.ComposeText()), Expected("{mixed}Hello"));
+    for (const bool logged : {false, true}) {  // with the same boundary
+        mail.message.NoEventLog = !logged;
+        EXPECT_EQ(Shortened(mail.message.ComposeText()), Expected("{mixed}Hello"));
+        EXPECT_EQ(std::filesystem::exists(mail.fake.folder / "LangPort.log"), logged);
+    }
     EXPECT_TRUE(mail.fake.ErrorLog().ends_with("\tAttachment () Not Found\r\n"));
 }
 
