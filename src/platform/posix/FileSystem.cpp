@@ -32,10 +32,11 @@ FileStatus StatusOfFailedOpen(const fs::path& folder) {
 }
 
 int OpenExisting(const Folder& folder, const fs::path& name) {
-    const int exact = Open({folder, name}, O_RDONLY);
+    // Not waiting: a pipe of that name would keep the program until somebody writes to it.
+    const int exact = Open({folder, name}, O_RDONLY | O_NONBLOCK);
     if (exact >= 0 || errno != ENOENT)
         return exact;
-    return Open(Place(FindExisting(folder.Path() / name)), O_RDONLY);
+    return Open(Place(FindExisting(folder.Path() / name)), O_RDONLY | O_NONBLOCK);
 }
 
 fs::path FolderOf(const fs::path& path) {
