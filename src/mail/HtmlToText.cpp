@@ -1,7 +1,6 @@
 #include "mail/HtmlToText.h"
 
 #include "mail/IgnoringCase.h"
-#include "mail/TagRemoval.h"
 
 namespace cvlang {
 namespace {
@@ -32,6 +31,23 @@ std::string WithoutBlock(const std::string& text, std::string_view startTag,
     return ReplaceIgnoringCase(text, text.substr(start, end + endTag.size() - start), "");
 }
 
+bool BreaksLine(std::string_view tag) {
+    const std::string lower = ToLowerCase(tag);
+    return lower.starts_with("<td") || lower.starts_with("<div") || lower.starts_with("<li");
+}
+
+/// Each tag is taken out of the whole text before the next one is looked for.
+std::string WithoutTags(std::string text) {
+    for (;;) {
+        const std::size_t start = text.find('<');
+        const std::size_t end = start == text.npos ? text.npos : text.find('>', start);
+        if (end == text.npos)
+            return text;
+        const std::string tag = text.substr(start, end + 1 - start);
+        text = ReplaceIgnoringCase(text, tag, BreaksLine(tag) ? kLineBreak : "");
+    }
+}
+
 }  // namespace
 
 std::string HTMLToText(std::string_view html, LineBreaks lineBreaks) {
@@ -41,7 +57,7 @@ std::string HTMLToText(std::string_view html, LineBreaks lineBreaks) {
     text = WithoutBlock(text, "<script", "</script>");
     text = ReplaceIgnoringCase(text, "<br>", kLineBreak);
     text = ReplaceIgnoringCase(text, "&nbsp;", " ");
-    text = RemoveTags(text);
+    text = WithoutTags(text);
     return lineBreaks == LineBreaks::Kept ? text : ReplaceIgnoringCase(text, kLineBreak, "<BR>");
 }
 

@@ -12,8 +12,7 @@ std::string ToLowerCase(std::string_view text);
 /// it does not.
 std::size_t FindIgnoringCase(std::string_view text, std::string_view wanted, std::size_t from = 0);
 
-/// The text with every occurrence of `wanted` replaced. Takes time in proportion to the text,
-/// whatever is in it.
+/// The text with every occurrence of `wanted` replaced.
 std::string ReplaceIgnoringCase(std::string_view text, std::string_view wanted,
                                 std::string_view replacement);
 

@@ -2,12 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
-#include <regex>
-
-#include "mail/IgnoringCase.h"
-#include "mail/TagRemoval.h"
-
 namespace cvlang {
 namespace {
 
@@ -32,42 +26,6 @@ TEST(HtmlToText, MarkupBecomesPlainText) {
     for (const auto& [html, text] : cases)
         EXPECT_EQ(HTMLToText(html, LineBreaks::Kept), text) << html;
     EXPECT_EQ(HTMLToText("a<br>b<div>c", LineBreaks::AsMarkup), "a<BR>b<BR>c");
-}
-
-/// What RemoveTags promises, word by word and slowly.
-std::string TagsRemovedOneByOne(std::string text) {
-    for (;;) {
-        const std::size_t start = text.find('<');
-        const std::size_t end = start == text.npos ? text.npos : text.find('>', start);
-        if (end == text.npos)
-            return text;
-        const std::string tag = text.substr(start, end + 1 - start);
-        const bool breaks = std::regex_search(tag, std::regex("^<(td|div|li)", std::regex::icase));
-        text = ReplaceIgnoringCase(text, tag, breaks ? "\r\n" : "");
-    }
-}
-
-TEST(HtmlToText, OnePassRemovesTagsAsReplacingOneByOneDoes) {
-    std::mt19937 random(1);
-    const std::string pieces[] = {"<", ">", "<", ">", "a", "A", "<td", "<a>", "<<a"};
-    for (int round = 0; round < 10000; ++round) {
-        std::string html;
-        for (auto length = random() % 40; length > 0; --length)
-            html += pieces[random() % std::size(pieces)];
-        ASSERT_EQ(RemoveTags(html), TagsRemovedOneByOne(html)) << html;
-    }
-}
-
-TEST(HtmlToText, HostileMarkupTakesNoSquareOfTime) {
-    constexpr int kMany = 200000;
-    std::string different;
-    for (int i = 0; i < kMany; ++i)
-        different.append("<").append(std::to_string(i)).append(">");
-    EXPECT_EQ(HTMLToText(different, LineBreaks::Kept), "");
-    std::string style;
-    for (int i = 0; i < kMany; ++i)
-        style += "<style";
-    EXPECT_TRUE(HTMLToText(style + "</style>" + style, LineBreaks::Kept) == style);
 }
 
 }  // namespace
