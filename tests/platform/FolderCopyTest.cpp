@@ -13,8 +13,8 @@ namespace fs = std::filesystem;
 
 void Copy(const fs::path& from, const fs::path& to) {
     CreateFolder(to);
-    CopyFilesOf(from, to, CopiedAttributes::Archive);
-    CopyFoldersOf(from, to);
+    CopyFilesOf(from, to, CopiedAttributes::Archive, [] {});
+    CopyFoldersOf(from, to, [] {});
 }
 
 TEST(FolderCopy, ANameThatDiffersOnlyInCaseIsWrittenInto) {
