@@ -3,6 +3,9 @@
 add_library(cvlang_options INTERFACE)
 target_compile_features(cvlang_options INTERFACE cxx_std_20)
 set(CMAKE_CXX_EXTENSIONS OFF)
+# The rooms go into the program and into its window module alike.
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 target_compile_options(cvlang_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Werror)
 if(CVLANG_SANITIZE)
