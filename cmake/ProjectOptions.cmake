@@ -11,7 +11,11 @@ target_compile_options(cvlang_options INTERFACE
 if(CVLANG_SANITIZE)
     target_compile_options(cvlang_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_compile_definitions(cvlang_options INTERFACE _GLIBCXX_ASSERTIONS)
     target_link_options(cvlang_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(CVLANG_FUZZ)
+    target_compile_options(cvlang_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 if(WIN32)
     # The release is one file that needs nothing but what Windows ships.

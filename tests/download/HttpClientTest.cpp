@@ -32,7 +32,7 @@ TEST(HttpClient, SendsExactlyTheRequestThatItIsAskedFor) {
         WebPeer peer(Okay("x", 1), data.size());
         SendHttpRequest(u"127.0.0.1", u"/Tools/Web Mail/\u00E9.map", data, verb, peer.Port());
         // WinINet writes a blank in its own way.
-        const std::string request = std::regex_replace(peer.Request(), std::regex("%20"), " ");
+        const std::string request = std::regex_replace(peer.Received(), std::regex("%20"), " ");
         EXPECT_EQ(request.substr(0, request.find('\r')),
                   std::string(verb.begin(), verb.end()) + " /Tools/Web Mail/\xE9.map HTTP/1.0");
         EXPECT_EQ(Count(request, "User-Agent: http generic\r\n"), 1);

@@ -21,7 +21,7 @@ std::string Fetch(FakeProgram& fake, const std::string& body,
                   const FetchSelection& selection = kFrench) {
     WebPeer peer(Answer(body));
     FetchDefaultTranslation(fake.program, {u"127.0.0.1", peer.Port()}, selection);
-    const std::string request = peer.Request();
+    const std::string request = peer.Received();
     return request.substr(0, request.find('\r'));
 }
 
