@@ -123,5 +123,29 @@ TEST_F(Dialogs, ATokenIsRemovedAsFarAsTheUserWants) {
     EXPECT_EQ(Entries("lbxTokens").size(), 2U);
 }
 
+TEST_F(Dialogs, TheDefaultTranslationComesFromTheDistributionServer) {
+    const std::string question =
+        "You have requested to download the default/current French translation table for "
+        "WebMail[default.net] from the Corvane web site.\n\nThis will overwrite any previous "
+        "modifications you have made to the this language.\n\nDo you wish to continue?";
+    const auto folder = std::filesystem::path(std::getenv("TEST_WEB_FOLDER")) /
+                        "Tools/WebMail/bases/default.net/Languages";
+    std::string published = Utf16Bytes(u"[CV_TXT-HELLO]\tSalut\r\n");
+    published += std::string(5000, '\0');
+    PutFile(folder / kFrenchMap, published);
+    Pick(Window(ConfiguredServices()), "lstLanguages", u"French");
+    for (const int answer : {wxID_NO, wxID_YES}) {
+        EXPECT_EQ(Translation(), u"Bonjour");
+        script_.ExpectBox("Update Language File: WebMail[default.net]", question,
+                          wxYES_NO | wxICON_QUESTION, answer);
+        Choose(Window(), frmMain::mnuFetchDefault);
+    }
+    EXPECT_EQ(FileBytes(kFrenchMap), published);
+    EXPECT_EQ(Translation(), u"Bonjour");  // nothing is reloaded until a token is clicked
+    Pick(Window(), "lbxTokens", u"[CV_TXT-BYE]: Goodbye");
+    Pick(Window(), "lbxTokens", u"[CV_TXT-HELLO]: Hello: you");
+    EXPECT_EQ(Translation(), u"Salut");
+}
+
 }  // namespace
 }  // namespace cvlang
