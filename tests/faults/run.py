@@ -9,7 +9,8 @@ import tempfile
 
 PROGRAM, UPDATE, SHIM, LAYOUT = sys.argv[1:]
 LANG, MAP = "Bin/NETWebMail/default/lang/", "Bin/WebMail-default.net-tokens-fr.map"
-work = pathlib.Path(tempfile.mkdtemp(prefix="cvlang-faults-"))
+MEMORY = "/dev/shm" if pathlib.Path("/dev/shm").is_dir() else None
+work = pathlib.Path(tempfile.mkdtemp(prefix="cvlang-faults-", dir=MEMORY))
 fresh, again, no_map, used, outside = (work / n for n in ("fresh", "again", "no-map", "used", "outside"))
 
 
@@ -38,7 +39,7 @@ def every_fault(before, command, check):
         while came:
             new, came = run(before, command, kind, at)
             assert check(contents(before), new, kind), (command, kind, at)
-            at, runs = at + 1, runs + 1
+            at, runs = at + 1, runs + came
     return runs
 
 
@@ -61,7 +62,8 @@ def check_update(old, new, kind):
 
 try:
     subprocess.run([LAYOUT, work / "all"], check=True, stdout=subprocess.DEVNULL)
-    shutil.copytree(work / "all", fresh, ignore=shutil.ignore_patterns("*Admin*", "*nterprise*", "*ephra*", "*esto*"))
+    shutil.copytree(work / "all", fresh, ignore=shutil.ignore_patterns(
+        "*Admin*", "*nterprise*", "*ephra*", "*esto*", "options", "controls", "[CIR]*.aspx"))
     registry = fresh / "registry.reg"
     registry.write_bytes(registry.read_bytes().replace(bytes(work / "all"), bytes(used)))
     generate = [PROGRAM, "WebMail", "default.net", "French"]
