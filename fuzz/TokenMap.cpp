@@ -14,11 +14,15 @@ void cvlang::Try(std::string_view input) {
     Must(isEmpty || tokens.size() == values.size(), "each token has its value");
     Must(tokens[0] == u"held" && values[0] == u"held", "the first elements stay");
     for (std::size_t i = 1; i < std::min<std::size_t>(tokens.size(), 20); ++i) {
-        const auto first = std::find(tokens.begin() + 1, tokens.end(), NormaliseToken(tokens[i]));
-        const auto value =
-            first == tokens.end() ? u"" : values[static_cast<std::size_t>(first - tokens.begin())];
-        Must(GetTokenValue(fake.config, u"WebMail", tokens[i], u"default", u"French") == value,
-             "a look-up finds what is loaded first");
+        std::u16string asked = tokens[i];
+        if (asked.find(u"]:") != asked.npos)
+            continue;
+        const auto first = std::find(tokens.begin() + 1, tokens.end(), asked) - tokens.begin();
+        if (asked.starts_with(kTokenPrefix) && asked.ends_with(u']'))
+            asked += u": English [x]: more";
+        Must(GetTokenValue(fake.config, u"WebMail", asked, u"default", u"French") ==
+                 values[static_cast<std::size_t>(first)],
+             "a token, or its list entry, is found where it is loaded first");
     }
     for (const std::u16string& entry : ListTokens(kFile))
         Must(entry.starts_with(kTokenPrefix) && entry.find(u'\n') == entry.npos,

@@ -35,11 +35,6 @@ TEST(Configuration, EveryCallReadsAnewAndMissingValuesReadAsTheirDefaults) {
     EXPECT_EQ(config.GetAuthoringVersion(), -3);
     EXPECT_EQ(config.GetLanguageAuthoring(), 1);
     EXPECT_EQ(config.ReadRegistryString(u"SOFTWARE", u"Any", u"ignored default"), u"");
-}
-
-TEST(Configuration, DebugModeIsTheExactWordTrue) {
-    FakeRegistry registry;
-    const Configuration config(registry);
     for (const char16_t* text : {u"", u"true", u"True"}) {
         registry.strings[u"DebugMode"] = text;
         EXPECT_EQ(config.IsDebugMode(), registry.strings[u"DebugMode"] == u"True");

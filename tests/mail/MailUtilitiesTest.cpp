@@ -52,6 +52,7 @@ TEST(AddressList, RepeatedAddressesAreDroppedAndSeveralListsBecomeOne) {
     EXPECT_EQ(MergedAddresses({" a@x ;b@x;", "", "c@x;A@x"}),
               (Addresses{"a@x", "b@x", "c@x", "A@x"}));
     EXPECT_EQ(MergedAddresses({"a@x, b@x", "", ""}), (Addresses{"a@x", "b@x"}));
+    EXPECT_EQ(MergedAddresses({"a@x;", ""}), (Addresses{"a@x"}));
     EXPECT_EQ(GetAddressDomain("a@b@c"), "b@c");
     EXPECT_EQ(GetAddressDomain("a"), "(unknown)");
 }

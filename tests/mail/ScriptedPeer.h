@@ -54,7 +54,8 @@ class ScriptedPeer {
             for (const char& byte : replies[i])
                 SendBytes(peer.client, {&byte, 1});
         }
-        while (ending_ == Ending::Listen && peer.ReceiveByte()) {
+        isOver_ = ending_ == Ending::Listen;
+        while (isOver_ && peer.ReceiveByte()) {
         }
         if ((ending_ == Ending::Close || ending_ == Ending::Reset) && !script_.empty())
             ReceiveCommand(peer, replies.back());
