@@ -1,32 +1,13 @@
 // A message as a real mail server receives it and as another MIME parser reads it.
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
-#include <memory>
 #include <random>
 
 #include "../MailFixture.h"
+#include "RealServer.h"
 
 namespace cvlang {
 namespace {
-
-/// Sends the message to the server of receive_mail.py and returns what that tells of it.
-std::string ReportOf(MailFixture& mail) {
-    const std::string command = "timeout 60 " MAIL_TEST_PYTHON " -W ignore " RECEIVE_MAIL " " +
-                                mail.fake.folder.Path().string();
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> output(popen(command.c_str(), "r"),
-                                                                 pclose);
-    std::array<char, 4096> line{};
-    if (std::fgets(line.data(), line.size(), output.get()) == nullptr)
-        return "no server: python3-aiosmtpd is needed";
-    mail.message.ServerPort = std::stoi(line.data());
-    EXPECT_EQ(mail.message.SendMessage(), 1) << mail.message.ErrorString;
-    std::string report;
-    while (std::fgets(line.data(), line.size(), output.get()) != nullptr)
-        report += line.data();
-    return report;
-}
 
 TEST(RealServer, ReceivesBothFormsOfTheBodyAndEveryAttachmentByteByByte) {
     MailFixture mail;
@@ -54,7 +35,10 @@ TEST(RealServer, ReceivesBothFormsOfTheBodyAndEveryAttachmentByteByByte) {
         mail.message.AddAttachment(mail.fake.folder / name, "");
         expected += "application/octet-stream ('" + name + "', True)\n";
     }
-    EXPECT_EQ(ReportOf(mail), expected);
+    RealServer server(mail.fake.folder.Path());
+    mail.message.ServerPort = server.Port();
+    EXPECT_EQ(mail.message.SendMessage(), 1) << mail.message.ErrorString;
+    EXPECT_EQ(server.Report(), expected);
     EXPECT_EQ(mail.fake.ErrorLog(), "(no file)");
 }
 
