@@ -3,11 +3,9 @@ string(TOLOWER ${PROJECT_NAME} package)
 set(documentation_folder ${CMAKE_INSTALL_DATADIR}/doc/${package})
 
 install(TARGETS CVLangTranslator RUNTIME)
-# The windows are a module of their own, which the program loads when it shows one.
+# The windows are a module of their own, which the program looks for in this folder.
 if(TARGET CVLangTranslatorWindow)
-    add_dependencies(CVLangTranslator CVLangTranslatorWindow)
-    install(TARGETS CVLangTranslatorWindow LIBRARY DESTINATION lib/${package})
-    set_target_properties(CVLangTranslator PROPERTIES INSTALL_RPATH "$ORIGIN;$ORIGIN/../lib/${package}")
+    install(TARGETS CVLangTranslatorWindow LIBRARY DESTINATION lib/cvlangtranslator)
 endif()
 
 install(FILES linux/${package}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
