@@ -20,6 +20,7 @@ endif()
 if(WIN32)
     # The release is one file that needs nothing but what Windows ships.
     target_link_options(cvlang_options INTERFACE -static)
+    target_compile_options(cvlang_options INTERFACE -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=)
     target_compile_definitions(cvlang_options INTERFACE
         UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0A00)
 endif()

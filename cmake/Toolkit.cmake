@@ -1,6 +1,17 @@
-# cvlang_toolkit: wxWidgets 3.2, for the rooms that show windows.
-find_package(wxWidgets 3.2 REQUIRED COMPONENTS core base)
+# cvlang_toolkit: wxWidgets 3.2, for the rooms that show windows. On Windows it is the static library that
+# scripts/build-wxwidgets makes, found through wxWidgets_DIR.
+if(WIN32)
+    find_package(wxWidgets 3.2 CONFIG REQUIRED COMPONENTS core base)
+else()
+    find_package(wxWidgets 3.2 REQUIRED COMPONENTS core base)
+endif()
 add_library(cvlang_toolkit INTERFACE)
 target_include_directories(cvlang_toolkit SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
 target_compile_definitions(cvlang_toolkit INTERFACE ${wxWidgets_DEFINITIONS})
 target_link_libraries(cvlang_toolkit INTERFACE ${wxWidgets_LIBRARIES})
+if(WIN32)
+    # Asserts in headers name their file: not by where it lies on the machine that built the program.
+    cmake_path(SET toolkit_folder NORMALIZE ${wxWidgets_DIR}/../../..)
+    target_compile_options(cvlang_toolkit INTERFACE
+        $<$<COMPILE_LANGUAGE:CXX>:-ffile-prefix-map=${toolkit_folder}=wxwidgets/>)
+endif()

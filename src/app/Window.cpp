@@ -66,8 +66,8 @@ bool ShowInBox(const UserMessage& message) {
     const wxInitializer toolkit(arguments.count, arguments.values);
     if (!toolkit.IsOk())
         return false;
-    MessageBoxes().Show(message);
-    return true;
+    // Where a box cannot be made it comes back without its button pressed.
+    return MessageBoxes().Show(message) == MessageAnswer::Ok;
 }
 
 }  // namespace cvlang

@@ -10,7 +10,7 @@ namespace cvlang {
 /// Shows the main window until it is closed. NoWindow when there is no display.
 ExitStatus ShowMainWindow(const Configuration& config, Logs& logs);
 
-/// Shows a message in a box. False when there is no display.
+/// Shows a message in a box that is to be confirmed. False when it was not, as without a display.
 bool ShowInBox(const UserMessage& message);
 
 }  // namespace cvlang

@@ -27,8 +27,23 @@ std::u16string EnvironmentText(const char* name) {
     return text == nullptr ? std::u16string() : AnsiToUtf16(text);
 }
 
+namespace {
+
+/// Standard error where the caller has given one, otherwise the console from which the program was
+/// started: a program with windows is not connected to it by itself.
+HANDLE ErrorOutput() {
+    const HANDLE given = GetStdHandle(STD_ERROR_HANDLE);
+    if (GetFileType(given) != FILE_TYPE_UNKNOWN)
+        return given;
+    AttachConsole(ATTACH_PARENT_PROCESS);
+    return CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_WRITE, nullptr,
+                       OPEN_EXISTING, 0, nullptr);
+}
+
+}  // namespace
+
 void WriteErrorLine(std::u16string_view text) {
-    const HANDLE error = GetStdHandle(STD_ERROR_HANDLE);
+    static const HANDLE error = ErrorOutput();
     std::u16string line(text);
     line += u"\r\n";
     DWORD written = 0;
