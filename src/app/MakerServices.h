@@ -2,15 +2,18 @@
 #pragma once
 
 #include "download/TokenFileFetch.h"
+#include "submission/Submission.h"
 
 namespace cvlang {
 
 struct MakerServices {
     DistributionServer distribution;
+    SubmissionTarget submission;
 };
 
-/// Those that the program was built with. For trying it out, CORVANE_DISTRIBUTION in the
-/// environment names another distribution web server, as HOST or HOST:PORT.
+/// Those that the program was built with. For trying it out, the variables
+/// CORVANE_DISTRIBUTION_SERVER and CORVANE_SUBMISSION_SERVER of the environment name others, as
+/// HOST or HOST:PORT.
 MakerServices ConfiguredServices();
 
 }  // namespace cvlang

@@ -9,6 +9,7 @@
 #include "app/TokenSearch.h"
 #include "app/frmAddLanguage.h"
 #include "app/frmAddToken.h"
+#include "submission/frmSend.h"
 #include "translation/LanguageTable.h"
 #include "translation/NewLanguage.h"
 #include "translation/TokenList.h"
@@ -132,6 +133,22 @@ void frmMain::OnNewLanguage() {
         // The base's own list, so that the new language is seen.
         LoadLanguageList(base);
     }
+}
+
+void frmMain::OnSubmitActive() {
+    const std::u16string base = lstBases->SelectedText();
+    const std::u16string language = lstLanguages->SelectedText();
+    frmSend(this, program_, services_.submission)
+        .SubmitFile(
+            ReferenceMapFile(),
+            GetLanguageMapFilePath(program_.config, program_.CurrentApplication, base, language),
+            lstApplication->SelectedText(), language, base);
+}
+
+void frmMain::OnSubmitAll() {
+    frmSend(this, program_, services_.submission)
+        .SubmitAllFiles(ReferenceMapFile(), lstApplication->SelectedText(),
+                        lstBases->SelectedText());
 }
 
 void frmMain::OnAbout() {

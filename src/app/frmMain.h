@@ -86,6 +86,8 @@ class frmMain : public wxFrame {
 
     void OnFetchDefault();
     void OnNewLanguage();
+    void OnSubmitActive();
+    void OnSubmitAll();
     void OnAbout();
 
     void OnSaveAndNext();

@@ -61,6 +61,8 @@ void frmMain::CreateMenu() {
     OnCommand(mnuFetchDefault, &frmMain::OnFetchDefault);
     OnCommand(mnuNewLanguage, &frmMain::OnNewLanguage);
     OnCommand(mnuFileExit, &frmMain::OnQuit);
+    OnCommand(mnuSubmitActive, &frmMain::OnSubmitActive);
+    OnCommand(menuSubmitAll, &frmMain::OnSubmitAll);
     OnCommand(mnuHelpAbout, &frmMain::OnAbout);
 }
 

@@ -1,6 +1,6 @@
 """Runs a command while a web server publishes an empty folder on a free port of this computer.
 
-The command finds the server as CORVANE_DISTRIBUTION and the folder as TEST_WEB_FOLDER.
+The command finds the server as CORVANE_DISTRIBUTION_SERVER and the folder as TEST_WEB_FOLDER.
 """
 import functools
 import http.server
@@ -14,7 +14,7 @@ with tempfile.TemporaryDirectory() as folder:
     handler = functools.partial(http.server.SimpleHTTPRequestHandler, directory=folder)
     with http.server.ThreadingHTTPServer(("127.0.0.1", 0), handler) as server:
         threading.Thread(target=server.serve_forever, daemon=True).start()
-        surroundings = {"CORVANE_DISTRIBUTION": f"127.0.0.1:{server.server_port}",
+        surroundings = {"CORVANE_DISTRIBUTION_SERVER": f"127.0.0.1:{server.server_port}",
                         "TEST_WEB_FOLDER": folder}
         status = subprocess.call(sys.argv[1:], env=os.environ | surroundings)
         server.shutdown()
