@@ -12,6 +12,12 @@
 namespace cvlang {
 namespace {
 
+/// A session of Windows may have nothing to show a window on; GTK has refused to start then.
+bool CanMakeWindows() {
+    wxFrame probe;
+    return probe.Create(nullptr, wxID_ANY, wxEmptyString);
+}
+
 /// The toolkit's side of the program.
 class WindowApp : public wxApp {
   public:
@@ -21,6 +27,8 @@ class WindowApp : public wxApp {
 
     // The base's own would read the command line.
     bool OnInit() override {
+        if (!CanMakeWindows())
+            return false;
         (new frmMain(program_, ConfiguredServices()))->Show();
         return true;
     }
