@@ -16,9 +16,9 @@ void cvlang::Try(std::string_view input) {
     std::vector<std::string> arguments = {"program"};
     for (std::string& line : LinesOf(input))
         arguments.push_back(line.substr(0, line.find_first_of(std::string("\"\0", 2))));
-    std::vector<const char*> pointers;
-    for (const std::string& argument : arguments)
-        pointers.push_back(argument.c_str());
+    std::vector<const char*> pointers(arguments.size());
+    std::transform(arguments.begin(), arguments.end(), pointers.begin(),
+                   [](const std::string& argument) { return argument.c_str(); });
     const std::u16string line = CommandLineText(static_cast<int>(pointers.size()), pointers.data());
     for (std::size_t i = 1; i < std::min<std::size_t>(arguments.size(), 20); ++i)
         Must(GetQuotedField(line, u' ', static_cast<int>(i)) == Utf8ToUtf16(arguments[i]),

@@ -26,7 +26,7 @@ std::string Wait(std::string_view set, std::string_view reply) {
     SendBytes(ends[0], reply);
     int minute = -1;
     const auto clock = [&minute] { return LocalTime{2004, 3, 7, 9, ++minute, 0}; };
-    const std::string code = WaitForReply(ends[1], set, clock, LocalTime{2004, 3, 7, 9, 0, 0});
+    std::string code = WaitForReply(ends[1], set, clock, LocalTime{2004, 3, 7, 9, 0, 0});
     CloseSocket(ends[0]);
     CloseSocket(ends[1]);
     return code;

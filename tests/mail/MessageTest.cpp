@@ -77,7 +77,7 @@ TEST(Message, EveryContentHasItsLayout) {
                  {"given", "", "",
                   Replaced(Replaced(kMixed, "mixed", "alternative") + Alternatives(kOuter), "1\n2",
                            "given")},
-                 {"text", "", "none", hello + Attached("name", "none", "")},
+                 {"text", "", "none", hello + Attached("name", "given", "")},
                  {"text", "a.map", "", hello + Attached("Name", "shown", "Zm9vYmFy")}};
     for (const auto& [plain, single, attachment, text] : cases) {
         MailFixture mail;
@@ -89,7 +89,7 @@ TEST(Message, EveryContentHasItsLayout) {
         mail.message.Attachmentname = "shown";
         const auto folder = Utf16ToAnsi(TextFromPath(mail.fake.folder.Path()) + kSeparator);
         if (!attachment.empty())
-            mail.message.AddAttachment(folder + attachment, "");
+            mail.message.AddAttachment(folder + attachment, plain == "text" ? "given" : "");
         EXPECT_EQ(BehindCommonHeaders(mail.message), text);
     }
 }

@@ -67,8 +67,8 @@ TEST(SmtpDialogue, EveryReplyLeadsToItsConversation) {
         if (to == address)
             delivery.message.MailFrom = address;
         delivery.message.MailBCC = to == "t@x;c@x" ? "T@X;b@x" : "";
-        delivery.message.AuthenticationMode = to == "user" ? 1 : 0;
-        delivery.message.Username = "user";
+        delivery.message.AuthenticationMode = to == "t@x" ? 0 : 1;
+        delivery.message.Username = to == "t@x" || to == "user" ? "user" : "";
         delivery.message.Password = "pass";
         const bool sent = outcome.rfind("Sent", 0) == 0;
         EXPECT_EQ(delivery.message.SendMessage(), sent ? 1 : 0);
