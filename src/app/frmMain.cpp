@@ -1,5 +1,6 @@
 #include "app/frmMain.h"
 
+#include <wx/icon.h>
 #include <wx/listctrl.h>
 #include <wx/textdlg.h>
 #include <wx/utils.h>
@@ -28,11 +29,19 @@ frmMain::frmMain(Program& program, MakerServices services)
       program_(program),
       services_(std::move(services)) {
     program_.waiting = &waiting_;
+    ShowIcon();
     CreateMenu();
     CreateControls();
     CreateKeys();
     Guarded(&frmMain::LoadWindow);
     lstApplication->SetFocus();
+}
+
+void frmMain::ShowIcon() {
+    wxIcon icon;
+    // Linux has no such resource, there the desktop entry names the icon.
+    if (icon.LoadFile("appicon", wxBITMAP_TYPE_ICO_RESOURCE))
+        SetIcon(icon);
 }
 
 frmMain::~frmMain() {

@@ -53,6 +53,7 @@ class frmMain : public wxFrame {
   private:
     using Action = void (frmMain::*)();
 
+    void ShowIcon();
     void CreateMenu();
     void CreateControls();
     void CreateDescription(wxSizer& column);

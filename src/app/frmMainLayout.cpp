@@ -121,7 +121,8 @@ SelectionList* frmMain::CreateList(wxSizer& row, const char* labelName, const ch
 
 void frmMain::CreateTokens(wxSizer& column) {
     AddLabel(*panel_, column, "Label6", "Tokens:");
-    lbxTokens = new SelectionList(panel_, "lbxTokens", [this] { Guarded(&frmMain::OnTokenClick); });
+    lbxTokens = new SelectionList(
+        panel_, "lbxTokens", [this] { Guarded(&frmMain::OnTokenClick); }, wxLB_HSCROLL);
     SetLeastSize(lbxTokens, kListWidth, kTokensHeight);
     AddToColumn(column, lbxTokens, 2);
 }

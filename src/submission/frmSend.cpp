@@ -18,7 +18,7 @@
 namespace cvlang {
 namespace {
 
-const wxSize kBodySize(560, 240);
+const wxSize kBodySize(640, 240);
 
 /// Labels with their boxes beside them, below what the column holds already.
 wxSizer& AddFields(const wxWindow& window, wxSizer& column) {

@@ -6,10 +6,11 @@
 
 namespace cvlang {
 
-SelectionList::SelectionList(wxWindow* parent, const wxString& name, std::function<void()> onClick)
+SelectionList::SelectionList(wxWindow* parent, const wxString& name, std::function<void()> onClick,
+                             long style)
     : onClick_(std::move(onClick)) {
     Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr,
-           wxLB_SINGLE | wxLB_HSCROLL | wxLB_NEEDED_SB, wxDefaultValidator, name);
+           wxLB_SINGLE | wxLB_NEEDED_SB | style, wxDefaultValidator, name);
     Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { OnSelected(); });
     Bind(wxEVT_SET_FOCUS, &SelectionList::OnFocus, this);
 }

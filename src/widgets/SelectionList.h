@@ -13,7 +13,8 @@ namespace cvlang {
 class SelectionList : public wxListBox {
   public:
     /// `onClick` is called after another entry was selected by mouse, key or code.
-    SelectionList(wxWindow* parent, const wxString& name, std::function<void()> onClick);
+    SelectionList(wxWindow* parent, const wxString& name, std::function<void()> onClick,
+                  long style = 0);
 
     /// Replaces the entries; none is selected then.
     void Fill(std::vector<std::u16string> entries);
