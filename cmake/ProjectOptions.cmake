@@ -3,12 +3,19 @@
 add_library(cvlang_options INTERFACE)
 target_compile_features(cvlang_options INTERFACE cxx_std_20)
 set(CMAKE_CXX_EXTENSIONS OFF)
+# The rooms go into the program and into its window module alike.
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 target_compile_options(cvlang_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Werror)
 if(CVLANG_SANITIZE)
     target_compile_options(cvlang_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_compile_definitions(cvlang_options INTERFACE _GLIBCXX_ASSERTIONS)
     target_link_options(cvlang_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(CVLANG_FUZZ)
+    target_compile_options(cvlang_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 if(WIN32)
     # The release is one file that needs nothing but what Windows ships.

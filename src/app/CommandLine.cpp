@@ -30,7 +30,7 @@ ExitStatus RunCommandLine(Program& program, std::u16string_view sCommandLine) {
         return ExitStatus::InvalidArguments;
     }
     ApplyTranslation(program, application, base, language);
-    return ExitStatus::Generated;
+    return ExitStatus::Done;
 }
 
 }  // namespace cvlang

@@ -10,9 +10,9 @@ namespace cvlang {
 
 /// What the process returns to whoever started it.
 enum class ExitStatus {
-    Generated = 0,         // a generation run, whatever it met
+    Done = 0,              // a generation run, whatever it met, or a window that was closed
     InvalidArguments = 2,  // no application or no base
-    NoWindow = 3           // no arguments, and no window to show
+    NoWindow = 3           // no arguments, and no display to show the window on
 };
 
 /// The n-th field, from 1, of a text split at a delimiter. Double quotes protect delimiters and

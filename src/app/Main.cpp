@@ -1,18 +1,39 @@
 #include "app/CommandLine.h"
+#include "app/Window.h"
 #include "platform/Process.h"
 
-int main(int argc, char** argv) {
-    using namespace cvlang;
+namespace cvlang {
+namespace {
+
+/// A box where there is a display, otherwise standard error.
+class CommandLineMessages : public StandardErrorMessages {
+  public:
+    MessageAnswer Show(const UserMessage& message) override {
+        return ShowInBox(message) ? MessageAnswer::Ok : StandardErrorMessages::Show(message);
+    }
+};
+
+ExitStatus Run(std::u16string_view commandLine) {
     const auto registry = SystemRegistry();
     const Configuration config(*registry);
     Logs logs;
-    StandardErrorMessages messages;
-    Program program{config, logs, messages};
+    if (!commandLine.empty()) {
+        CommandLineMessages messages;
+        Program program{config, logs, messages};
+        return RunCommandLine(program, commandLine);
+    }
+    const ExitStatus status = ShowMainWindow(config, logs);
+    if (status == ExitStatus::NoWindow) {
+        WriteErrorLine(
+            u"CVLangTranslator cannot open its window here. Without one it generates a language's "
+            u"pages: CVLangTranslator APPLICATION BASE LANGUAGE");
+    }
+    return status;
+}
 
-    const std::u16string commandLine = CommandLineText(argc, argv);
-    if (!commandLine.empty())
-        return static_cast<int>(RunCommandLine(program, commandLine));
-    WriteErrorLine(
-        u"CVLangTranslator has no window yet. Usage: CVLangTranslator APPLICATION BASE LANGUAGE");
-    return static_cast<int>(ExitStatus::NoWindow);
+}  // namespace
+}  // namespace cvlang
+
+int main(int argc, char** argv) {
+    return static_cast<int>(cvlang::Run(cvlang::CommandLineText(argc, argv)));
 }

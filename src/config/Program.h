@@ -8,6 +8,7 @@
 #include "config/Configuration.h"
 #include "config/Logs.h"
 #include "config/UserMessages.h"
+#include "config/Waiting.h"
 
 namespace cvlang {
 
@@ -22,6 +23,8 @@ struct Program {
     std::vector<std::int32_t> tokenUseCounts{};
     /// Set when the program works without a window: no question is asked.
     bool unattended = false;
+    /// What the user sees of long work.
+    WaitDisplay* waiting = &WaitDisplay::None();
 };
 
 }  // namespace cvlang

@@ -7,8 +7,9 @@ namespace cvlang {
 
 std::string SendHttpRequest(std::u16string_view sServer, std::u16string_view sPath,
                             std::u16string_view sPostData, std::u16string_view sVerb,
-                            std::uint16_t port) {
+                            std::uint16_t port, const std::function<void()>& stillWaiting) {
     HttpRequest request;
+    request.stillWaiting = stillWaiting;
     request.host = Utf16ToAnsi(sServer);
     request.port = port;
     request.target = Utf16ToAnsi(sPath);
@@ -19,8 +20,9 @@ std::string SendHttpRequest(std::u16string_view sServer, std::u16string_view sPa
     return SendRequest(request);
 }
 
-std::string HttpGet(std::u16string_view sPath, std::u16string_view sServer, std::uint16_t port) {
-    return SendHttpRequest(sServer, sPath, u"", u"GET", port);
+std::string HttpGet(std::u16string_view sPath, std::u16string_view sServer, std::uint16_t port,
+                    const std::function<void()>& stillWaiting) {
+    return SendHttpRequest(sServer, sPath, u"", u"GET", port, stillWaiting);
 }
 
 }  // namespace cvlang

@@ -32,6 +32,11 @@ bool IsProtected(const Configuration& config, const std::filesystem::path& file)
     return EntryExists(file) && config.GetLanguageAuthoring() == 1;
 }
 
+std::string Download(Program& program, const DistributionServer& server, std::u16string_view path) {
+    const WaitScope waiting(*program.waiting);
+    return HttpGet(path, server.host, server.port, [&program] { program.waiting->Step(); });
+}
+
 /// Each pair of bytes is a character already; what is missing is the mark in front of them.
 std::string Content(const std::string& body, bool unicode) {
     return unicode ? std::string(kUtf16ByteOrderMark) + body : body;
@@ -71,7 +76,7 @@ bool DownloadTokenFile(Program& program, const DistributionServer& server,
     const std::filesystem::path file = FindExisting(PathFromText(local));
     if (IsProtected(program.config, file))
         return true;
-    const std::string body = HttpGet(sServerPath, server.host, server.port);
+    const std::string body = Download(program, server, sServerPath);
     if (body.starts_with(kErrorPage)) {
         // The place for a name between the two blanks has never been filled.
         program.messages.Show({u"Could not access File for  from the Server. File=" + local});

@@ -55,6 +55,17 @@ ContentFolders FoldersOf(const Configuration& config, std::u16string_view applic
     return {FindExisting(reference), FindExisting(folder), false};
 }
 
+/// What is to do for a folder: each file is copied, and each page is translated then.
+std::size_t CountSteps(const fs::path& folder) {
+    const FolderListing listing = ListFolder(folder);
+    std::size_t steps = listing.files.size();
+    for (const fs::path& name : listing.files)
+        steps += IsPage(name) ? 1U : 0U;
+    for (const fs::path& name : listing.folders)
+        steps += CountSteps(folder / name);
+    return steps;
+}
+
 bool MayOverwrite(Program& program) {
     return program.messages.Show(
                {u"Web Content for this Language already exists, do you wish to overwrite it?",
@@ -74,6 +85,9 @@ void TraceTokenUse(Program& program, const std::vector<std::u16string>& arrToken
 
 bool ApplyTranslation(Program& program, std::u16string_view sApplication, std::u16string_view sBase,
                       std::u16string_view sLanguage) {
+    program.waiting->Expect([&] {
+        return CountSteps(FoldersOf(program.config, sApplication, sBase, sLanguage).reference);
+    });
     if (!PrepareLanguageFolder(program, sApplication, sBase, sLanguage, 1))
         return false;
     std::vector<std::u16string> arrTokens(1);
@@ -97,8 +111,9 @@ bool PrepareLanguageFolder(Program& program, std::u16string_view sApplication,
     const bool existed = !CreateFolder(folders.language);
     if (iNoPrompt == 0 && !program.unattended && existed && !MayOverwrite(program))
         return false;
-    CopyFilesOf(folders.reference, folders.language, CopiedAttributes::Archive);
-    CopyFoldersOf(folders.reference, folders.language);
+    const auto step = [&program] { program.waiting->Step(); };
+    CopyFilesOf(folders.reference, folders.language, CopiedAttributes::Archive, step);
+    CopyFoldersOf(folders.reference, folders.language, step);
     return true;
 }
 

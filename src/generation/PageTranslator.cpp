@@ -56,6 +56,7 @@ void PageTranslator::TranslateFile(const fs::path& sSourcePath, bool bScriptAwar
 }
 
 void PageTranslator::TranslateFile(const Folder& folder, const fs::path& name, bool bScriptAware) {
+    program_.waiting->Step();
     if (ReadFile(folder, name, source_) != FileStatus::Okay) {
         // A log that cannot be written must not keep the other pages from being translated.
         [[maybe_unused]] const auto ignored = program_.logs.LogTranslationEvent(

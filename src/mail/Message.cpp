@@ -13,6 +13,7 @@
 #include "mail/SmtpDialogue.h"
 #include "platform/Ansi.h"
 #include "platform/FolderListing.h"
+#include "platform/Paths.h"
 
 namespace cvlang {
 namespace {
@@ -20,6 +21,10 @@ namespace {
 /// What looking up an empty file name comes to.
 bool CurrentFolderHoldsAFile() {
     return !ListFolder(".").files.empty();
+}
+
+std::filesystem::path PathFromAnsi(std::string_view text) {
+    return PathFromText(AnsiToUtf16(text));
 }
 
 std::string NameInPath(const std::string& file) {
@@ -46,7 +51,11 @@ void Message::AddAttachment(const std::string& Filename, const std::string& name
         ErrorString = "You must specify a filename for the attachment.";
         throw MailError(MailErrorNumber::Incomplete, "AddAttachment", ErrorString);
     }
-    attachments_.push_back({Filename, name.empty() ? NameInPath(Filename) : name});
+    AddFile(PathFromAnsi(Filename), name.empty() ? NameInPath(Filename) : name);
+}
+
+void Message::AddFile(std::filesystem::path file, std::string name) {
+    attachments_.push_back({std::move(file), std::move(name)});
 }
 
 void Message::ClearAttachments() {
@@ -107,7 +116,7 @@ std::string Message::ComposeText() {
 BodyDetails Message::DetailsOfBody() const {
     BodyDetails body{attachments_, "name", boundary_, {}};
     if (attachments_.empty() && !AttachmentFileName.empty()) {
-        body.attachments = {{AttachmentFileName, Attachmentname}};
+        body.attachments = {{PathFromAnsi(AttachmentFileName), Attachmentname}};
         body.nameParameter = "Name";  // meant, like the other spellings
     }
     if (!body.attachments.empty() && HasHtmlBody())

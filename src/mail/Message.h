@@ -1,6 +1,7 @@
 // A mail message that sends itself: fill in the fields, add attachments, call SendMessage.
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -30,6 +31,8 @@ class Message : public MessageFields {
 
     /// Without a name the attachment is called as its file. Raises an error when no file is named.
     void AddAttachment(const std::string& Filename, const std::string& name);
+    /// Adds an attachment by its path, which may hold characters that the code page lacks.
+    void AddFile(std::filesystem::path file, std::string name);
     void ClearAttachments();
 
     /// Empties everything but the three flags, and sets the port to the usual one.

@@ -4,16 +4,11 @@
 
 #include "mail/Base64.h"
 #include "mail/HtmlToText.h"
-#include "platform/Ansi.h"
 #include "platform/FileSystem.h"
 #include "platform/Paths.h"
 
 namespace cvlang {
 namespace {
-
-std::filesystem::path PathOf(const Attachment& attachment) {
-    return PathFromText(AnsiToUtf16(attachment.file));
-}
 
 void AppendDelimiter(std::string& text, std::string_view boundary) {
     text.append("--").append(boundary).append("\r\n");
@@ -49,7 +44,7 @@ void AppendAttachment(std::string& text, const Attachment& attachment,
     text.append("=\"").append(attachment.name).append("\"\r\n");
     text.append("Content-Transfer-Encoding: base64\r\nContent-Disposition: attachment;\r\n");
     text.append("\tfilename=\"").append(attachment.name).append("\"\r\n\r\n");
-    [[maybe_unused]] const FileStatus ignored = ReadFile(PathOf(attachment), content);
+    [[maybe_unused]] const FileStatus ignored = ReadFile(attachment.file, content);
     Base64::AppendEncoded(text, content.Bytes());
 }
 
@@ -81,7 +76,7 @@ std::size_t EstimatedBodySize(const MessageFields& fields, const BodyDetails& de
         2 * fields.MessageBody.size() + fields.MessageBodyPlain.size() + 3 * kPartHeaders;
     for (const Attachment& attachment : details.attachments) {
         std::error_code error;
-        const auto fileSize = std::filesystem::file_size(FindExisting(PathOf(attachment)), error);
+        const auto fileSize = std::filesystem::file_size(FindExisting(attachment.file), error);
         size += kPartHeaders + (error ? 0 : Base64::EncodedSize(fileSize));
     }
     return size;

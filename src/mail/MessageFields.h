@@ -1,6 +1,7 @@
 // What the user of a message fills in. Texts are bytes of the ANSI code page.
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -48,7 +49,7 @@ struct MessageFields {
 };
 
 struct Attachment {
-    std::string file;
+    std::filesystem::path file;
     std::string name;  // shown to the recipient
 };
 

@@ -136,6 +136,7 @@ bool SmtpDialogue::Report(std::string_view code) {
 }
 
 std::string SmtpDialogue::Command(std::string line, std::string_view replyCodeSet) {
+    surroundings_.beforeCommand();
     return SMTPProcessClientCommand(connection_.Socket(), line.append(kLineEnd), replyCodeSet,
                                     surroundings_.clock);
 }

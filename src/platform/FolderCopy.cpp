@@ -22,16 +22,21 @@ bool IsLinkedFolder(const fs::path& path) {
 }
 
 void CopyFiles(const std::vector<fs::path>& names, const fs::path& from, const fs::path& to,
-               const TargetNames& targets, CopiedAttributes attributes) {
+               const TargetNames& targets, CopiedAttributes attributes,
+               const FileCopied& fileCopied) {
     const Folder source(from);
     const Folder target(to);
-    for (const fs::path& name : names)
+    for (const fs::path& name : names) {
         CopyOneFile(source, name, target, targets.Find(name), attributes);
+        fileCopied();
+    }
 }
 
 /// Copies folders within folders, and knows on the way which ones are being copied from and to.
 class FolderCopier {
   public:
+    explicit FolderCopier(const FileCopied& fileCopied) : fileCopied_(fileCopied) {}
+
     void CopyFolders(const FolderListing& listing, const fs::path& from, const fs::path& to,
                      const TargetNames& targets) {
         const auto copy = [&](const fs::path& name) {
@@ -72,28 +77,30 @@ class FolderCopier {
         const FolderListing listing = ListFolder(from);
         const bool isNew = CreateFolder(to);
         const TargetNames targets(to, isNew);
-        CopyFiles(listing.files, from, to, targets, CopiedAttributes::Kept);
+        CopyFiles(listing.files, from, to, targets, CopiedAttributes::Kept, fileCopied_);
         CopyFolders(listing, from, to, targets);
     }
 
+    const FileCopied& fileCopied_;
     std::vector<fs::path> busy_;  // the real folders on both sides of every link that was followed
 };
 
 }  // namespace
 
-void CopyFilesOf(const fs::path& from, const fs::path& to, CopiedAttributes attributes) {
+void CopyFilesOf(const fs::path& from, const fs::path& to, CopiedAttributes attributes,
+                 const FileCopied& fileCopied) {
     const FolderListing listing = ListFolder(from);
     if (!IsSameFolder(from, to)) {
-        CopyFiles(listing.files, from, to, TargetNames(to, false), attributes);
+        CopyFiles(listing.files, from, to, TargetNames(to, false), attributes, fileCopied);
     } else if (attributes == CopiedAttributes::Archive) {
         for (const fs::path& name : listing.files)
             ResetAttributes(from / name);
     }
 }
 
-void CopyFoldersOf(const fs::path& from, const fs::path& to) {
+void CopyFoldersOf(const fs::path& from, const fs::path& to, const FileCopied& fileCopied) {
     if (!IsSameFolder(from, to))
-        FolderCopier().CopyFolders(ListFolder(from), from, to, TargetNames(to, false));
+        FolderCopier(fileCopied).CopyFolders(ListFolder(from), from, to, TargetNames(to, false));
 }
 
 }  // namespace cvlang

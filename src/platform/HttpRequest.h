@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace cvlang {
@@ -14,6 +15,8 @@ struct HttpRequest {
     std::string verb;
     std::string body;
     std::string header;  // one more header line without its end, or none
+    /// Called now and then until the response has arrived.
+    std::function<void()> stillWaiting = [] {};
 };
 
 /// Sends the request and returns what arrived of the response's body, whatever the status said;

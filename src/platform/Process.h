@@ -11,6 +11,9 @@ namespace cvlang {
 /// set in double quotes.
 std::u16string CommandLineText(int argc, const char* const* argv);
 
+/// A variable of the environment; empty when it is not set.
+std::u16string EnvironmentText(const char* name);
+
 /// Writes one line to standard error.
 void WriteErrorLine(std::u16string_view text);
 

@@ -44,7 +44,7 @@ TEST(CommandLine, AnEmptyLanguageIsPassedOn) {
     const auto lang = fake.folder / "NETWebMail" / "default" / "lang";
     PutFile(fake.folder / "WebMail-default.net-lang.txt", "x\ty\r\n\tnone\r\n");
     PutFile(lang / "SYS" / "a.asp", "a");
-    EXPECT_EQ(RunCommandLine(fake.program, u"WebMail default.net"), ExitStatus::Generated);
+    EXPECT_EQ(RunCommandLine(fake.program, u"WebMail default.net"), ExitStatus::Done);
     EXPECT_EQ(FileBytes(lang / "none" / "a.asp"),
               "\xEF\xBB\xBF"
               "a");

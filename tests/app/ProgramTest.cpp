@@ -46,7 +46,7 @@ TEST(ProgramFile, TellsWhatIsWrongByTextAndStatus) {
     EXPECT_EQ(run("WebMail"), ExitStatus::InvalidArguments);
     EXPECT_EQ(FileBytes("errors.txt").substr(0, 17), "Invalid arguments");
     EXPECT_EQ(run(""), ExitStatus::NoWindow);
-    EXPECT_EQ(run(std::string(5000, 'x') + " default.net French"), ExitStatus::Generated);
+    EXPECT_EQ(run(std::string(5000, 'x') + " default.net French"), ExitStatus::Done);
 }
 
 }  // namespace

@@ -16,8 +16,7 @@ std::string Line(std::string_view message) {
 TEST(Logs, GrowLineByLineTheErrorLogInTheCurrentFolder) {
     const TemporaryFolder folder;
     Logs logs(FakeProgram::FixedClock, folder / "CVTrans.log");
-    std::filesystem::create_directory(folder / "in");
-    const CurrentFolder current(folder / "in");
+    const CurrentFolder current(folder.Path());
     EXPECT_FALSE(logs.LogTranslationEvent(u"one \u00E9 \u3042"));
     EXPECT_FALSE(logs.LogTranslationEvent(u"two"));
     logs.LogTranslationTrace(u"one");
@@ -26,14 +25,11 @@ TEST(Logs, GrowLineByLineTheErrorLogInTheCurrentFolder) {
     EXPECT_EQ(FileBytes(folder / "CVTrans.log"), Line("one") + Line("two"));
 }
 
-TEST(Logs, AnErrorLogThatCannotBeWrittenIsToldATraceIsNot) {
+TEST(Logs, AnErrorLogThatCannotBeWrittenIsTold) {
     const TemporaryFolder folder;
     const CurrentFolder current(folder.Path());
     std::filesystem::create_directory("LangPort.log");
-    Logs logs(FakeProgram::FixedClock, folder / "none" / "CVTrans.log");
-    EXPECT_TRUE(logs.LogTranslationEvent(u"lost"));
-    logs.LogTranslationTrace(u"lost");
-    EXPECT_FALSE(std::filesystem::exists("none"));
+    EXPECT_TRUE(Logs().LogTranslationEvent(u"lost"));
 }
 
 }  // namespace

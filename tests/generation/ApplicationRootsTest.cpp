@@ -16,7 +16,6 @@ std::u16string WithSeparators(std::u16string path) {
 
 TEST(ApplicationRoots, EveryApplicationAndBaseHasItsPlace) {
     const std::tuple<std::u16string, std::u16string, std::u16string, std::u16string> cases[] = {
-        {u"src", u"WebMail", u"default", u"src/WebMail/base/default/lang"},
         {u"src", u"WEBMAIL", u"Kesto.NET", u"src/WebMail/base/Kesto.NET/lang"},
         {u"src", u"netwebmail", u"zephra", u"src/WebAdmin/base/zephra/lang"},
         {u"", u"WebMail", u"default.net", u"app/NETWebMail/default/lang"},
@@ -27,8 +26,7 @@ TEST(ApplicationRoots, EveryApplicationAndBaseHasItsPlace) {
         {u"", u"WebAdmin", u"enterprise.net", u"app/NETWebAdmin/enterprise/lang"},
         {u"", u"anything", u"zephra.net", u"app/NETWebAdmin/Zephra/lang"},
         {u"", u"", u"kesto.net", u"app/NETWebAdmin/Kesto/lang"},
-        {u"", u"WebMail", u"default", u""},
-        {u"", u"WebMail", u"", u""}};
+        {u"", u"WebMail", u"default", u""}};
     FakeRegistry registry;
     const Configuration config(registry);
     registry.strings[u"Application Directory"] = u"app";
@@ -39,8 +37,7 @@ TEST(ApplicationRoots, EveryApplicationAndBaseHasItsPlace) {
     registry.strings.clear();
     EXPECT_EQ(GetLanguageRoot(config, u"WebMail", u"default.net"),
               WithSeparators(u"/NETWebMail/default/lang"));
-    for (const auto& [version, code] :
-         {std::pair{0, u"EN"}, {1, u"EN"}, {2, u"SYS"}, {3, u"SYS"}}) {
+    for (const auto& [version, code] : {std::pair{1, u"EN"}, {2, u"SYS"}, {3, u"SYS"}}) {
         registry.numbers[u"Authoring Version"] = version;
         EXPECT_EQ(GetReferenceLanguageCode(config), code);
     }

@@ -6,11 +6,8 @@ namespace cvlang {
 namespace {
 
 TEST(HtmlToText, MarkupBecomesPlainText) {
-    const struct {
-        const char *html, *text;
-    } cases[] = {
-        {"a\r\nb\nc", "ab\nc"},
-        {"a<BR>b<br>c<br/>d", "a\r\nb\r\ncd"},
+    const std::pair<const char*, const char*> cases[] = {
+        {"a\r\nb<BR>c<br/>d", "ab\r\ncd"},
         {"a&NBSP;b&amp;", "a b&amp;"},
         {"x<Title>A <b></TITLE>y", "xy"},
         {"x<Title>A</TITLE>y<title>a</title>z", "xyz"},
@@ -18,11 +15,9 @@ TEST(HtmlToText, MarkupBecomesPlainText) {
         {"</style>1<style>a", "1a"},
         {"<title><title><title>x", "x"},
         {"1<script>if (a<b)</script>2", "12"},
-        {"<tr><td>a<TD x>b</td><div>c</div><li>d<ol>e</ol>", "\r\na\r\nb\r\nc\r\nde"},
-        {"a < b", "a < b"},
-        {"<a <b>c>d", "c>d"},
-        {"<b>1<a <B>c>2", "12"},
-    };
+        {"<tr><td>a<TD x>b</td><div>c<li>d", "\r\na\r\nb\r\nc\r\nd"},
+        {"<a <b>c>d < e", "c>d < e"},
+        {"> <b>1<a <B>c>2", "> 12"}};
     for (const auto& [html, text] : cases)
         EXPECT_EQ(HTMLToText(html, LineBreaks::Kept), text) << html;
     EXPECT_EQ(HTMLToText("a<br>b<div>c", LineBreaks::AsMarkup), "a<BR>b<BR>c");

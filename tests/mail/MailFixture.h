@@ -11,7 +11,7 @@ struct MailFixture {
         : message(fake.config, fake.logs,
                   {std::move(clock),
                    [this] {
-                       return Guid{++guids, 0xAA, 0xBB, {}};
+                       return std::optional(Guid{++guids, 0xAA, 0xBB, {}});
                    },
                    [] {
                        return TimeZoneInformation{-60, 0, 0, ZoneTime::Unknown};

@@ -3,11 +3,10 @@
 
 #include <atomic>
 #include <string>
-#include <thread>
 
 #include "mail/AddressList.h"
 #include "platform/SystemInformation.h"
-#include "support/LoopbackListener.h"
+#include "support/LoopbackPeer.h"
 
 namespace cvlang {
 
@@ -21,10 +20,9 @@ enum class Ending { Listen, Close, Reset, ResetAtOnce };
 class ScriptedPeer {
   public:
     explicit ScriptedPeer(std::string script, Ending ending = Ending::Listen)
-        : script_(std::move(script)), ending_(ending), thread_([this] { Run(); }) {}
-    ~ScriptedPeer() { Received(); }
+        : script_(std::move(script)), ending_(ending) {}
 
-    int Port() const { return listener_.Port(); }
+    int Port() const { return peer_.Port(); }
 
     /// Stands still, but for silences and when the script is over.
     Clock ClientsClock() {
@@ -36,57 +34,41 @@ class ScriptedPeer {
 
     /// All that the client has sent, once it is done. The clock is back at its start then.
     std::string Received() {
-        if (thread_.joinable())
-            thread_.join();
+        const std::string received = peer_.Received();
         isOver_ = false;
         seconds_ = 0;
-        return received_;
+        return received;
     }
 
   private:
-    void Run() {
-        client_ = listener_.Accept();
+    static bool ReceiveCommand(LoopbackPeer& peer, std::string_view answered) {
+        return peer.ReceiveUntil(answered.starts_with("354") ? "\r\n.\r\n" : "\r\n");
+    }
+
+    void Run(LoopbackPeer& peer) {
         const auto replies = SplitList(script_, '|');
-        bool connected = true;
-        for (std::size_t i = 0; i < replies.size() && !script_.empty() && connected; ++i) {
-            connected = i == 0 || ReceiveCommand(replies[i - 1]);
+        bool connected = !script_.empty();
+        for (std::size_t i = 0; i < replies.size() && connected; ++i) {
+            connected = i == 0 || ReceiveCommand(peer, replies[i - 1]);
             seconds_ += replies[i].empty() ? 60 : 0;
             for (const char& byte : replies[i])
-                SendBytes(client_, {&byte, 1});
+                SendBytes(peer.client, {&byte, 1});
         }
-        if (ending_ == Ending::Listen)
-            while (ReceiveByte()) {
-            }
-        else if (ending_ != Ending::ResetAtOnce && !script_.empty())
-            ReceiveCommand(replies.back());
-        ending_ < Ending::Reset ? static_cast<void>(CloseSocket(client_))
-                                : ResetConnection(client_);
+        isOver_ = ending_ == Ending::Listen;
+        while (isOver_ && peer.ReceiveByte()) {
+        }
+        if ((ending_ == Ending::Close || ending_ == Ending::Reset) && !script_.empty())
+            ReceiveCommand(peer, replies.back());
+        if (ending_ >= Ending::Reset)
+            ResetConnection(std::exchange(peer.client, kNoSocket));
         isOver_ = true;
-    }
-
-    bool ReceiveByte() {
-        char byte = 0;
-        const bool came = ReceiveBytes(client_, &byte, 1) == 1;
-        received_.append(came ? 1 : 0, byte);
-        return came;
-    }
-
-    bool ReceiveCommand(std::string_view answered) {
-        const std::string end = answered.substr(0, 3) == "354" ? "\r\n.\r\n" : "\r\n";
-        bool came = ReceiveByte();
-        while (came && !received_.ends_with(end))
-            came = ReceiveByte();
-        return came;
     }
 
     const std::string script_;
     const Ending ending_;
-    const LoopbackListener listener_;
-    SocketHandle client_ = kNoSocket;
-    std::string received_;
     std::atomic<int> seconds_ = 0;
     std::atomic<bool> isOver_ = false;
-    std::thread thread_;
+    LoopbackPeer peer_{[this](LoopbackPeer& peer) { Run(peer); }};
 };
 
 }  // namespace cvlang

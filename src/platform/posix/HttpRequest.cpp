@@ -16,6 +16,11 @@ std::size_t AppendToBody(char* bytes, std::size_t, std::size_t count, void* body
     return count;
 }
 
+int TellProgress(void* request, curl_off_t, curl_off_t, curl_off_t, curl_off_t) {
+    static_cast<const HttpRequest*>(request)->stillWaiting();
+    return 0;
+}
+
 /// What WinINet sends of its own accord, and nothing that only this library would send.
 HeaderList Headers(const HttpRequest& request) {
     curl_slist* list = curl_slist_append(nullptr, "Accept:");
@@ -54,6 +59,9 @@ std::string SendRequest(const HttpRequest& request) {
     curl_easy_setopt(transfer.get(), CURLOPT_HTTP09_ALLOWED, 1L);
     curl_easy_setopt(transfer.get(), CURLOPT_WRITEFUNCTION, AppendToBody);
     curl_easy_setopt(transfer.get(), CURLOPT_WRITEDATA, &body);
+    curl_easy_setopt(transfer.get(), CURLOPT_NOPROGRESS, 0L);
+    curl_easy_setopt(transfer.get(), CURLOPT_XFERINFOFUNCTION, TellProgress);
+    curl_easy_setopt(transfer.get(), CURLOPT_XFERINFODATA, &request);
     curl_easy_perform(transfer.get());  // what arrived before a failure counts
     return body;
 }

@@ -1,6 +1,7 @@
 #include "platform/Process.h"
 
 #include <cstdio>
+#include <cstdlib>
 
 #include "platform/Utf8.h"
 
@@ -17,6 +18,11 @@ std::u16string CommandLineText(int argc, const char* const* argv) {
         line += quoted ? "\"" : "";
     }
     return Utf8ToUtf16(line);
+}
+
+std::u16string EnvironmentText(const char* name) {
+    const char* const text = std::getenv(name);
+    return text == nullptr ? std::u16string() : Utf8ToUtf16(text);
 }
 
 void WriteErrorLine(std::u16string_view text) {

@@ -12,6 +12,8 @@
 namespace cvlang {
 namespace {
 
+constexpr timeval kSendPatience{60, 0};
+
 template <typename Call>
 ssize_t Uninterrupted(Call call) {
     ssize_t result = 0;
@@ -71,7 +73,12 @@ int ConnectSocket(SocketHandle socket, AddressNumber address, std::uint16_t port
     peer.sin_family = AF_INET;
     peer.sin_port = htons(port);
     peer.sin_addr.s_addr = address;
-    return connect(static_cast<int>(socket), reinterpret_cast<const sockaddr*>(&peer), sizeof peer);
+    if (connect(static_cast<int>(socket), reinterpret_cast<const sockaddr*>(&peer), sizeof peer) !=
+        0)
+        return -1;
+    // Not before: it would cut connecting short, too.
+    return setsockopt(static_cast<int>(socket), SOL_SOCKET, SO_SNDTIMEO, &kSendPatience,
+                      sizeof kSendPatience);
 }
 
 int CloseSocket(SocketHandle socket) {

@@ -25,7 +25,7 @@ class InternetHandle {
     HINTERNET handle_;
 };
 
-std::string ReadBody(HINTERNET request) {
+std::string ReadBody(HINTERNET request, const std::function<void()>& stillWaiting) {
     std::string body;
     std::array<char, 2048> buffer;
     for (bool goOn = true; goOn;) {
@@ -33,6 +33,7 @@ std::string ReadBody(HINTERNET request) {
         goOn = InternetReadFile(request, buffer.data(), static_cast<DWORD>(buffer.size()), &count);
         body.append(buffer.data(), count);
         goOn = goOn && count != 0;
+        stillWaiting();
     }
     return body;
 }
@@ -62,7 +63,7 @@ std::string SendRequest(const HttpRequest& request) {
     }
     HttpSendRequestA(opened.Get(), nullptr, 0, const_cast<char*>(request.body.data()),
                      static_cast<DWORD>(request.body.size()));
-    return ReadBody(opened.Get());
+    return ReadBody(opened.Get(), request.stillWaiting);
 }
 
 }  // namespace cvlang

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <cstdlib>
+
 #include "platform/Ansi.h"
 
 namespace cvlang {
@@ -18,6 +20,11 @@ std::u16string CommandLineText(int, const char* const*) {
         return {};
     const std::wstring_view arguments = line.substr(start);
     return {arguments.begin(), arguments.end()};
+}
+
+std::u16string EnvironmentText(const char* name) {
+    const char* const text = std::getenv(name);
+    return text == nullptr ? std::u16string() : AnsiToUtf16(text);
 }
 
 namespace {

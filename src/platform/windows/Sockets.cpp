@@ -11,9 +11,11 @@ SOCKET Native(SocketHandle socket) {
     return static_cast<SOCKET>(socket);
 }
 
-/// The calls count in int.
+constexpr DWORD kSendPatience = 60000;  // milliseconds
+
+/// The calls count in int. A send's patience is for all of its bytes, so they must be few.
 int Limited(std::size_t size) {
-    constexpr std::size_t kMost = 1 << 30;
+    constexpr std::size_t kMost = 1 << 16;
     return static_cast<int>(std::min(size, kMost));
 }
 
@@ -73,7 +75,10 @@ int ConnectSocket(SocketHandle socket, AddressNumber address, std::uint16_t port
     peer.sin_family = AF_INET;
     peer.sin_port = htons(port);
     peer.sin_addr.s_addr = address;
-    return connect(Native(socket), reinterpret_cast<const sockaddr*>(&peer), sizeof peer);
+    if (connect(Native(socket), reinterpret_cast<const sockaddr*>(&peer), sizeof peer) != 0)
+        return SOCKET_ERROR;
+    return setsockopt(Native(socket), SOL_SOCKET, SO_SNDTIMEO,
+                      reinterpret_cast<const char*>(&kSendPatience), sizeof kSendPatience);
 }
 
 int CloseSocket(SocketHandle socket) {

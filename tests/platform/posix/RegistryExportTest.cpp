@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
-
+#include "platform/Utf8.h"
 #include "support/Files.h"
 
 namespace cvlang {
@@ -25,14 +24,10 @@ TEST(RegistryExport, StringsAreReadWithTheirEscapesAndOtherKindsAreNoText) {
         {R"("Value"="say \"hello\"")", u"say \"hello\""},
         {R"(  "VALUE" = ""  )", u""},
         {"\"Value\"=hex(2):41,00,42,\\\n  00,00,00", u"AB"},
-        {R"("Value"=hex(1):41,00)", u"A"},
         {R"("Value"=hex:41,00,00,00)", std::nullopt},
-        {R"("Value"=hex(7):41,00,00,00,00,00)", std::nullopt},
         {R"("Value"=dword:00000001)", std::nullopt},
-        {R"("Value"="not closed)", std::nullopt},
         {R"("Value"="ends in backslash\)", std::nullopt},
         {R"("Value"="text" and more)", std::nullopt},
-        {R"(;"Value"="comment")", std::nullopt},
         {"\"Value\"=\"first\"\n\"Value\"=\"second\"", u"second"},
         {"\"Value\"=\"first\"\n\"Value\"=nonsense", u"first"},
         {"\"Value\"=\"first\"\n\"Value\"=-", std::nullopt},
@@ -52,22 +47,11 @@ TEST(RegistryExport, NumbersAreDwordsOnly) {
 }
 
 TEST(RegistryExport, TheFileMayBeUtf16OrUtf8WithAMarkOrWithout) {
-    const std::string utf16 = Utf16Bytes(
-        u"x\r\n[HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\Corvane]\r\n\"Value\"=\"\u3042\"\r\n");
-    EXPECT_EQ(Value(utf16).text, u"\u3042");
-    EXPECT_EQ(Value(utf16.substr(2)).text, u"\u3042");
-    EXPECT_EQ(Value("\xEF\xBB\xBF" + InKey("\"Value\"=\"\xE3\x81\x82\"")).text, u"\u3042");
-}
-
-TEST(RegistryExport, CutsAndChangedBytesNeverDoHarm) {
-    const std::string whole = InKey("\"Value\"=hex(2):41,00,\\\n  00,00\n\"Value\"=\"x\\\\y\"");
-    std::mt19937 random(3);
-    for (std::size_t length = 1; length <= whole.size(); ++length) {
-        std::string broken = whole.substr(0, length);
-        broken[random() % broken.size()] = static_cast<char>(random());
-        Value(broken);
-    }
-    EXPECT_EQ(Value(whole).text, u"x\\y");
+    const std::u16string text =
+        u"[HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\Corvane]\r\n\"Value\"=\"\u3042\"\r\n";
+    for (const std::string& file : {Utf16Bytes(text), Utf16Bytes(text).substr(2), Utf16ToUtf8(text),
+                                    "\xEF\xBB\xBF" + Utf16ToUtf8(text)})
+        EXPECT_EQ(Value(file).text, u"\u3042");
 }
 
 }  // namespace

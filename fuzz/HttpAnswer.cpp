@@ -1,0 +1,48 @@
+// An input that begins with "HTTP/" is all that a web server sends, any other the body of a proper
+// answer.
+#include <sys/socket.h>
+
+#include <thread>
+
+#include "download/TokenFileFetch.h"
+#include "fuzz/Fuzz.h"
+#include "support/LoopbackListener.h"
+
+namespace cvlang {
+namespace {
+
+/// Answers one request and waits for the client to go: it has then read everything.
+void Answer(const LoopbackListener& listener, const std::string& answer) {
+    const SocketHandle client = listener.Accept();
+    std::string request(1, '\0');
+    while (!request.ends_with("\r\n\r\n") && ReceiveBytes(client, request.data(), 1) == 1)
+        request += request[0];
+    SendBytes(client, answer);
+    shutdown(static_cast<int>(client), SHUT_WR);
+    while (ReceiveBytes(client, request.data(), 1) == 1) {
+    }
+    CloseSocket(client);
+}
+
+}  // namespace
+}  // namespace cvlang
+
+void cvlang::Try(std::string_view input) {
+    static const LoopbackListener listener;
+    FakeProgram& fake = Surroundings();
+    PutFile("t.map", "mine");
+    const bool isRaw = input.starts_with("HTTP/");
+    const std::string answer = isRaw ? "" : "HTTP/1.0 200 OK\r\n\r\n";
+    std::thread peer([&] { Answer(listener, answer + std::string(input)); });
+    const bool fetched =
+        DownloadTokenFile(fake.program, {u"127.0.0.1", static_cast<std::uint16_t>(listener.Port())},
+                          u"t.map", u"/", input.ends_with('u'));
+    peer.join();
+    const std::string file = FileBytes("t.map");
+    const std::string body = (input.ends_with('u') ? "\xFF\xFE" : "") + std::string(input);
+    Must(isRaw || fetched != input.starts_with("<!DOCTYPE HTML PUBLIC"),
+         "only an error page is refused");
+    Must(isRaw || !fetched || file == body, "every byte of the body arrives");
+    Must(fetched || file == "mine", "a refused answer changes nothing");
+    fake.messages.shown.clear();
+}

@@ -1,0 +1,36 @@
+// Lines of token TAB value up to one without a TAB, which tells by its first character which page
+// follows: "s" a script file, "p" a page without regard to scripts, any other an ordinary page.
+#include "fuzz/Fuzz.h"
+#include "generation/PlaceholderSubstitution.h"
+#include "generation/PlainSubstitution.h"
+#include "platform/Utf8.h"
+
+void cvlang::Try(std::string_view input) {
+    std::vector<std::u16string> tokens(1);
+    std::vector<std::u16string> values(1);
+    std::string_view line = TakeLine(input);
+    std::size_t growth = 1;
+    for (; line.find('\t') != line.npos; line = TakeLine(input)) {
+        tokens.push_back(Utf8ToUtf16(line.substr(0, line.find('\t'))));
+        values.push_back(Utf8ToUtf16(line.substr(line.find('\t') + 1)));
+        growth *= 1 + values.back().size();
+        if (growth > 1000000)  // values within values: the page would become as large
+            return;
+    }
+    const bool scriptFile = line.starts_with('s');
+    const bool scriptAware = !line.starts_with('p');
+    const PlainPage expected =
+        SubstitutePlainly(std::string(input), tokens, values, scriptFile, scriptAware);
+    const TokenIndex index(tokens, values);
+    std::vector<std::int32_t> useCounts(tokens.size());
+    PlaceholderSubstitution substitution(index, useCounts);
+    std::string text;
+    Must(substitution.Translate(input,
+                                scriptFile    ? ScriptMode::Always
+                                : scriptAware ? ScriptMode::Tracked
+                                              : ScriptMode::Ignored,
+                                text),
+         "a page is translated");
+    Must(text == expected.text, "the text is that of the plain procedure");
+    Must(useCounts == expected.useCounts, "so are the counts");
+}

@@ -1,0 +1,19 @@
+#include "app/TokenRemoval.h"
+
+#include "translation/TokenLines.h"
+
+namespace cvlang {
+
+void RemoveTokenAsAsked(UserMessages& messages, const std::filesystem::path& referenceMapFile,
+                        std::u16string_view token) {
+    const MessageAnswer answer =
+        messages.Show({u"Also remove this token from all translated language files?",
+                       u"Confirm Removal", MessageButtons::YesNoCancel});
+    if (answer == MessageAnswer::Cancel)
+        return;
+    RemoveFromReferenceFile(referenceMapFile, token);
+    if (answer == MessageAnswer::Yes)
+        RemoveFromLanguageFiles(referenceMapFile, token);
+}
+
+}  // namespace cvlang

@@ -1,0 +1,25 @@
+// Window mode from the module. Without the module the program is as without a display.
+#include "app/Window.h"
+#include "platform/posix/SharedModule.h"
+
+namespace cvlang {
+namespace {
+
+template <typename Function>
+Function* FromModule(const char* name) {
+    return reinterpret_cast<Function*>(FindInModule("libCVLangTranslatorWindow.so", name));
+}
+
+}  // namespace
+
+ExitStatus ShowMainWindow(const Configuration& config, Logs& logs) {
+    const auto show = FromModule<int(const Configuration*, Logs*)>("CVLangShowMainWindow");
+    return show == nullptr ? ExitStatus::NoWindow : static_cast<ExitStatus>(show(&config, &logs));
+}
+
+bool ShowInBox(const UserMessage& message) {
+    const auto show = FromModule<int(const UserMessage*)>("CVLangShowInBox");
+    return show != nullptr && show(&message) != 0;
+}
+
+}  // namespace cvlang

@@ -1,0 +1,14 @@
+// The module's two functions, by the names that the program looks them up with.
+#include "app/Window.h"
+
+extern "C" {
+
+[[gnu::visibility("default")]] int CVLangShowMainWindow(const cvlang::Configuration* config,
+                                                        cvlang::Logs* logs) {
+    return static_cast<int>(cvlang::ShowMainWindow(*config, *logs));
+}
+
+[[gnu::visibility("default")]] int CVLangShowInBox(const cvlang::UserMessage* message) {
+    return cvlang::ShowInBox(*message) ? 1 : 0;
+}
+}

@@ -1,0 +1,41 @@
+// The dialog that adds a token to an application base or removes one.
+#pragma once
+
+#include <wx/dialog.h>
+
+#include <filesystem>
+#include <string_view>
+
+#include "config/UserMessages.h"
+
+class wxButton;
+
+namespace cvlang {
+
+class TextBox;
+
+class frmAddToken : public wxDialog {
+  public:
+    frmAddToken(wxWindow* parent, UserMessages& messages);
+
+    /// Shows the dialog for a new token, which goes to the end of the reference map file.
+    void AddToken(const std::filesystem::path& sTokenFile);
+
+    /// Shows the dialog for the removal of the token of a list entry ("[CV_TXT-HELLO]: Hello").
+    void RemoveToken(const std::filesystem::path& sTokenFile, std::u16string_view sTokenName);
+
+  private:
+    enum class Mode { Add, Remove };
+
+    void ShowFor(Mode mode, const wxString& caption, const wxString& action);
+    void OnAction();
+
+    UserMessages& messages_;
+    Mode mode_ = Mode::Add;
+    std::filesystem::path tokenFile_;
+    TextBox* txtTokenName;
+    TextBox* txtTokenValue;
+    wxButton* cmdAction;
+};
+
+}  // namespace cvlang

@@ -1,0 +1,226 @@
+#include "app/frmMain.h"
+
+#include <wx/icon.h>
+#include <wx/listctrl.h>
+#include <wx/textdlg.h>
+#include <wx/utils.h>
+
+#include "app/ApplicationDiscovery.h"
+#include "app/LanguageGeneration.h"
+#include "app/TokenSearch.h"
+#include "app/frmAddLanguage.h"
+#include "app/frmAddToken.h"
+#include "submission/frmSend.h"
+#include "translation/LanguageTable.h"
+#include "translation/NewLanguage.h"
+#include "translation/TokenList.h"
+#include "translation/TokenMapFile.h"
+#include "translation/TokenUpdate.h"
+#include "widgets/ErrorGuard.h"
+#include "widgets/SelectionList.h"
+#include "widgets/Text.h"
+#include "widgets/TextBox.h"
+
+namespace cvlang {
+
+frmMain::frmMain(Program& program, MakerServices services)
+    : wxFrame(nullptr, wxID_ANY, "Corvane Language Translation Tool", wxDefaultPosition,
+              wxDefaultSize, wxDEFAULT_FRAME_STYLE, "frmMain"),
+      program_(program),
+      services_(std::move(services)) {
+    program_.waiting = &waiting_;
+    ShowIcon();
+    CreateMenu();
+    CreateControls();
+    CreateKeys();
+    Guarded(&frmMain::LoadWindow);
+    lstApplication->SetFocus();
+}
+
+void frmMain::ShowIcon() {
+    wxIcon icon;
+    // Linux has no such resource, there the desktop entry names the icon.
+    if (icon.LoadFile("appicon", wxBITMAP_TYPE_ICO_RESOURCE))
+        SetIcon(icon);
+}
+
+frmMain::~frmMain() {
+    program_.waiting = &WaitDisplay::None();
+}
+
+void frmMain::LoadWindow() {
+    lstApplication->Fill({std::begin(kApplications), std::end(kApplications)});
+    lstApplication->Click(0);
+    program_.CurrentApplication = lstApplication->SelectedText();
+    FillBases();
+    LoadLanguageList(program_.CurrentApplication);
+}
+
+void frmMain::FillBases() {
+    lstBases->Fill(DetectBases(program_.config, kProbedApplication));
+    if (lstBases->Entries().empty()) {
+        // Users know the words as they are spelt here.
+        program_.messages.Show({u"Error: No web applications wewre detected", u"Setup Issue",
+                                MessageButtons::Ok, MessageIcon::Critical});
+    }
+    lstBases->Click(0);
+}
+
+void frmMain::LoadTokenList() {
+    lbxTokens->Fill(ListTokens(ReferenceMapFile()));
+    lbxTokens->Click(0);
+}
+
+void frmMain::LoadLanguageList(std::u16string_view base) {
+    lstLanguages->Fill(
+        cvlang::LoadLanguageList(program_.config, program_.CurrentApplication, base));
+}
+
+void frmMain::OnApplicationClick() {
+    program_.CurrentApplication = lstApplication->SelectedText();
+    LoadTokenList();
+    LoadLanguageList(lstApplication->SelectedText());
+}
+
+void frmMain::OnBaseClick() {
+    LoadLanguageList(lstApplication->SelectedText());
+}
+
+void frmMain::OnLanguageClick() {
+    LoadTokenList();
+}
+
+void frmMain::OnTokenClick() {
+    const std::u16string selected = lbxTokens->SelectedText();
+    const TokenEntry entry = SplitTokenEntry(selected);
+    lvwTokenDetails->DeleteAllItems();
+    lvwTokenDetails->InsertItem(0, ToWx(entry.token));
+    lvwTokenDetails->SetItem(0, 1, ToWx(entry.value));
+    txtTranslation->Load(GetTokenValue(program_.config, program_.CurrentApplication, selected,
+                                       lstBases->SelectedText(), lstLanguages->SelectedText()));
+}
+
+void frmMain::OnUpdate() {
+    UpdateToken(program_, lstBases->SelectedText(), lstLanguages->SelectedText(),
+                lbxTokens->SelectedText(), txtTranslation->Text());
+}
+
+void frmMain::OnApply() {
+    GenerateLanguage(program_, lstBases->SelectedText(), lstLanguages->SelectedText());
+}
+
+void frmMain::OnAddToken() {
+    frmAddToken(this, program_.messages).AddToken(ReferenceMapFile());
+    LoadTokenList();
+}
+
+void frmMain::OnRemoveToken() {
+    if (!SelectedToken())
+        return;
+    frmAddToken(this, program_.messages).RemoveToken(ReferenceMapFile(), lbxTokens->SelectedText());
+    LoadTokenList();
+}
+
+void frmMain::OnQuit() {
+    Close();
+}
+
+void frmMain::OnFetchDefault() {
+    FetchDefaultTranslation(
+        program_, services_.distribution,
+        {lstApplication->SelectedText(), lstBases->SelectedText(), lstLanguages->SelectedText()});
+}
+
+void frmMain::OnNewLanguage() {
+    const std::u16string base = lstBases->SelectedText();
+    frmAddLanguage dialog(this);
+    dialog.SetTitle(ToWx(u"Add Language: " + lstApplication->SelectedText() + u"[" + base + u"]"));
+    std::u16string name;
+    std::u16string abbreviation;
+    if (dialog.AddLanguage(name, abbreviation) &&
+        AddLanguageToBase(program_, base, name, abbreviation)) {
+        // The base's own list, so that the new language is seen.
+        LoadLanguageList(base);
+    }
+}
+
+void frmMain::OnSubmitActive() {
+    const std::u16string base = lstBases->SelectedText();
+    const std::u16string language = lstLanguages->SelectedText();
+    frmSend(this, program_, services_.submission)
+        .SubmitFile(
+            ReferenceMapFile(),
+            GetLanguageMapFilePath(program_.config, program_.CurrentApplication, base, language),
+            lstApplication->SelectedText(), language, base);
+}
+
+void frmMain::OnSubmitAll() {
+    frmSend(this, program_, services_.submission)
+        .SubmitAllFiles(ReferenceMapFile(), lstApplication->SelectedText(),
+                        lstBases->SelectedText());
+}
+
+void frmMain::OnAbout() {
+    program_.messages.Show({u"Corvane Language Translation Utility (Version 3.0)", u"Help About..",
+                            MessageButtons::Ok, MessageIcon::Information});
+}
+
+void frmMain::OnSaveAndNext() {
+    OnUpdate();
+    OnNext();
+}
+
+void frmMain::OnNext() {
+    const std::optional<std::size_t> selected = SelectedToken();
+    lbxTokens->Click(selected ? *selected + 1 : 0);
+}
+
+void frmMain::OnPrevious() {
+    const std::optional<std::size_t> selected = SelectedToken();
+    if (selected && *selected > 0)
+        lbxTokens->Click(*selected - 1);
+}
+
+void frmMain::OnNextUntranslated() {
+    ClickFound(FindUntranslated(program_, lbxTokens->Entries(), SelectedToken(),
+                                lstBases->SelectedText(), lstLanguages->SelectedText()));
+}
+
+void frmMain::OnFind() {
+    wxTextEntryDialog dialog(this, "Find in the tokens and their English values:", "Find",
+                             ToWx(soughtText_));
+    if (dialog.ShowModal() == wxID_OK) {
+        soughtText_ = FromWx(dialog.GetValue());
+        OnFindNext();
+    }
+}
+
+void frmMain::OnFindNext() {
+    if (!soughtText_.empty())
+        ClickFound(FindEntry(lbxTokens->Entries(), SelectedToken(), soughtText_));
+}
+
+void frmMain::OnUndo() {
+    txtTranslation->UndoChange();
+}
+
+std::optional<std::size_t> frmMain::SelectedToken() const {
+    const int selection = lbxTokens->GetSelection();
+    return selection == wxNOT_FOUND ? std::nullopt
+                                    : std::optional(static_cast<std::size_t>(selection));
+}
+
+void frmMain::ClickFound(std::optional<std::size_t> index) {
+    if (index) {
+        lbxTokens->Click(*index);
+    } else {
+        wxBell();
+    }
+}
+
+std::filesystem::path frmMain::ReferenceMapFile() const {
+    return GetReferenceMapFilePath(program_.config, program_.CurrentApplication,
+                                   lstBases->SelectedText());
+}
+
+}  // namespace cvlang

@@ -1,0 +1,121 @@
+// The main window: pick an application, a base, a language and a token, translate, generate.
+#pragma once
+
+#include <wx/frame.h>
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "app/MakerServices.h"
+#include "config/Program.h"
+#include "widgets/frmWait.h"
+
+class wxButton;
+class wxListCtrl;
+class wxPanel;
+class wxStaticText;
+
+namespace cvlang {
+
+class SelectionList;
+class TextBox;
+
+class frmMain : public wxFrame {
+  public:
+    // The entries of the menu.
+    enum MenuId {
+        mnuFetchDefault = wxID_HIGHEST + 1,
+        mnuNewLanguage,
+        mnuFileExit,
+        mnuSubmitActive,
+        menuSubmitAll,
+        mnuHelpAbout
+    };
+
+    // What keys do that no caption shows.
+    enum KeyId {
+        SaveKey = mnuHelpAbout + 1,
+        SaveAndNextKey,
+        NextKey,
+        PreviousKey,
+        NextUntranslatedKey,
+        FindKey,
+        FindNextKey,
+        UndoKey
+    };
+
+    /// Fills the lists. The program must outlive the window, which shows all its long work.
+    frmMain(Program& program, MakerServices services);
+    ~frmMain() override;
+
+  private:
+    using Action = void (frmMain::*)();
+
+    void ShowIcon();
+    void CreateMenu();
+    void CreateControls();
+    void CreateDescription(wxSizer& column);
+    void CreateSelection(wxSizer& column);
+    void CreateTokens(wxSizer& column);
+    void CreateDetails(wxSizer& column);
+    void CreateButtons(wxSizer& column);
+    void CreateKeys();
+    SelectionList* CreateList(wxSizer& row, const char* labelName, const char* label,
+                              const char* name, Action onClick);
+    wxButton* CreateButton(wxWindow& parent, const char* caption, const char* name, Action onClick);
+    void OnCommand(int id, Action action);
+    void Guarded(Action action);
+    void OnResized(wxSizeEvent& event);
+
+    void LoadWindow();
+    void FillBases();
+    void LoadTokenList();
+    void LoadLanguageList(std::u16string_view base);
+
+    void OnApplicationClick();
+    void OnBaseClick();
+    void OnLanguageClick();
+    void OnTokenClick();
+
+    void OnUpdate();
+    void OnApply();
+    void OnAddToken();
+    void OnRemoveToken();
+    void OnQuit();
+
+    void OnFetchDefault();
+    void OnNewLanguage();
+    void OnSubmitActive();
+    void OnSubmitAll();
+    void OnAbout();
+
+    void OnSaveAndNext();
+    void OnNext();
+    void OnPrevious();
+    void OnNextUntranslated();
+    void OnFind();
+    void OnFindNext();
+    void OnUndo();
+    std::optional<std::size_t> SelectedToken() const;
+    void ClickFound(std::optional<std::size_t> index);
+
+    std::filesystem::path ReferenceMapFile() const;
+
+    Program& program_;
+    MakerServices services_;
+    WaitWindow waiting_{this};
+    std::u16string soughtText_;
+
+    wxPanel* panel_ = nullptr;
+    wxStaticText* Label7 = nullptr;
+    SelectionList* lstApplication = nullptr;
+    SelectionList* lstBases = nullptr;
+    SelectionList* lstLanguages = nullptr;
+    SelectionList* lbxTokens = nullptr;
+    wxListCtrl* lvwTokenDetails = nullptr;
+    TextBox* txtTranslation = nullptr;
+};
+
+}  // namespace cvlang

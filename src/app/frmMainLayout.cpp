@@ -1,0 +1,223 @@
+// What the main window looks like: its menu, controls and keys, and what each of them calls.
+#include <wx/accel.h>
+#include <wx/button.h>
+#include <wx/listctrl.h>
+#include <wx/menu.h>
+#include <wx/panel.h>
+#include <wx/statbox.h>
+#include <wx/stattext.h>
+
+#include <vector>
+
+#include "app/frmMain.h"
+#include "widgets/ErrorGuard.h"
+#include "widgets/Layout.h"
+#include "widgets/SelectionList.h"
+#include "widgets/TextBox.h"
+
+namespace cvlang {
+namespace {
+
+// Users know the text as it stands, "modificatons" included.
+constexpr const char* kDescription =
+    "This utility allows the customization of different languages for Corvane WebMail and "
+    "WebAdmin. "
+    "Once you have made changes to a language, you can also submit the modificatons to Corvane so "
+    "they can be used by others.";
+
+// At the usual resolution; the smallest window shows this much of everything.
+constexpr int kListWidth = 190;
+constexpr int kListHeight = 100;
+constexpr int kTokensHeight = 110;
+constexpr int kDetailsHeight = 56;
+constexpr int kStartWidth = 800;
+constexpr int kStartHeight = 690;
+
+/// A list's own idea of its size follows its entries, which come and go.
+void SetLeastSize(wxWindow* window, int width, int height) {
+    window->SetMinSize(window->FromDIP(wxSize(width, height)));
+}
+
+}  // namespace
+
+void frmMain::CreateMenu() {
+    auto* mnuFile = new wxMenu;
+    mnuFile->Append(mnuFetchDefault, "&Fetch Default Translation");
+    mnuFile->Append(mnuNewLanguage, "&Add New Language...");
+    mnuFile->AppendSeparator();
+    mnuFile->Append(mnuFileExit, "&Exit");
+    auto* mnuSubmit = new wxMenu;
+    mnuSubmit->Append(mnuSubmitActive, "S&ubmit Active Translation");
+    mnuSubmit->Append(menuSubmitAll, "Submit &All Translations");
+    auto* mnuHelp = new wxMenu;
+    mnuHelp->Append(mnuHelpAbout, "&About..");
+
+    auto* bar = new wxMenuBar;
+    bar->Append(mnuFile, "&File");
+    bar->Append(mnuSubmit, "&Submit");
+    bar->Append(mnuHelp, "&Help");
+    SetMenuBar(bar);
+
+    OnCommand(mnuFetchDefault, &frmMain::OnFetchDefault);
+    OnCommand(mnuNewLanguage, &frmMain::OnNewLanguage);
+    OnCommand(mnuFileExit, &frmMain::OnQuit);
+    OnCommand(mnuSubmitActive, &frmMain::OnSubmitActive);
+    OnCommand(menuSubmitAll, &frmMain::OnSubmitAll);
+    OnCommand(mnuHelpAbout, &frmMain::OnAbout);
+}
+
+void frmMain::CreateControls() {
+    // The panel brings the Tab key and the system's background.
+    panel_ = new wxPanel(this);
+    auto* margin = new wxBoxSizer(wxVERTICAL);
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    margin->Add(column, wxSizerFlags(1).Expand().Border(wxALL, FromDIP(kWindowMargin)));
+    CreateDescription(*column);
+    CreateSelection(*column);
+    CreateTokens(*column);
+    CreateDetails(*column);
+    CreateButtons(*column);
+    panel_->SetSizer(margin);
+
+    auto* frame = new wxBoxSizer(wxVERTICAL);
+    frame->Add(panel_, wxSizerFlags(1).Expand());
+    SetSizer(frame);
+    Label7->Wrap(FromDIP(3 * kListWidth));
+    // Not as a size hint of the sizer: GTK would ask again for the size of a label that is
+    // unwrapped.
+    SetMinClientSize(frame->CalcMin());
+    panel_->Bind(wxEVT_SIZE, &frmMain::OnResized, this);
+    SetSize(FromDIP(wxSize(kStartWidth, kStartHeight)));
+}
+
+void frmMain::CreateDescription(wxSizer& column) {
+    Label7 = new wxStaticText(panel_, wxID_ANY, kDescription);
+    Label7->SetName("Label7");
+    column.Add(Label7, wxSizerFlags().Expand());
+}
+
+void frmMain::CreateSelection(wxSizer& column) {
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    lstApplication = CreateList(*row, "Label1", "Current Application:", "lstApplication",
+                                &frmMain::OnApplicationClick);
+    lstBases = CreateList(*row, "Label2", "Application Base:", "lstBases", &frmMain::OnBaseClick);
+    lstLanguages =
+        CreateList(*row, "Label3", "Target Language:", "lstLanguages", &frmMain::OnLanguageClick);
+    column.Add(row, wxSizerFlags(1).Expand().Border(wxTOP, FromDIP(kGap)));
+}
+
+SelectionList* frmMain::CreateList(wxSizer& row, const char* labelName, const char* label,
+                                   const char* name, Action onClick) {
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    AddLabel(*panel_, *column, labelName, label);
+    auto* list = new SelectionList(panel_, name, [this, onClick] { Guarded(onClick); });
+    SetLeastSize(list, kListWidth, kListHeight);
+    AddToColumn(*column, list, 1);
+    if (!row.IsEmpty())
+        row.AddSpacer(FromDIP(kGap));
+    row.Add(column, wxSizerFlags(1).Expand());
+    return list;
+}
+
+void frmMain::CreateTokens(wxSizer& column) {
+    AddLabel(*panel_, column, "Label6", "Tokens:");
+    lbxTokens = new SelectionList(
+        panel_, "lbxTokens", [this] { Guarded(&frmMain::OnTokenClick); }, wxLB_HSCROLL);
+    SetLeastSize(lbxTokens, kListWidth, kTokensHeight);
+    AddToColumn(column, lbxTokens, 2);
+}
+
+void frmMain::CreateDetails(wxSizer& column) {
+    auto* details = new wxStaticBoxSizer(wxVERTICAL, panel_, "Token Details");
+    wxStaticBox* Frame1 = details->GetStaticBox();
+    Frame1->SetName("Frame1");
+    auto* inner = new wxBoxSizer(wxVERTICAL);
+    AddLabel(*Frame1, *inner, "Label5", "Original Token:");
+    lvwTokenDetails =
+        new wxListCtrl(Frame1, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                       wxLC_REPORT | wxLC_SINGLE_SEL, wxDefaultValidator, "lvwTokenDetails");
+    lvwTokenDetails->AppendColumn("Token Name");
+    lvwTokenDetails->AppendColumn("English Value");
+    SetLeastSize(lvwTokenDetails, kListWidth, kDetailsHeight);
+    AddToColumn(*inner, lvwTokenDetails);
+
+    AddLabel(*Frame1, *inner, "Label4", "Translated Token Value:");
+    txtTranslation = new TextBox(Frame1, "txtTranslation");
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(txtTranslation, wxSizerFlags(1).CentreVertical());
+    row->AddSpacer(FromDIP(kGap));
+    row->Add(CreateButton(*Frame1, "Update File", "cmdUpdate", &frmMain::OnUpdate));
+    inner->Add(row, wxSizerFlags().Expand());
+    details->Add(inner, wxSizerFlags(1).Expand().Border(wxALL, FromDIP(kGap)));
+    column.Add(details, wxSizerFlags().Expand().Border(wxTOP, FromDIP(kGap)));
+}
+
+void frmMain::CreateButtons(wxSizer& column) {
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    const auto add = [&](const char* caption, const char* name, Action onClick) {
+        row->Add(CreateButton(*panel_, caption, name, onClick),
+                 wxSizerFlags().Border(wxRIGHT, FromDIP(kGap)));
+    };
+    add("Add Token...", "cmdAddToken", &frmMain::OnAddToken);
+    add("Remove Token...", "cmdRemoveToken", &frmMain::OnRemoveToken);
+    row->AddStretchSpacer();
+    add("Apply Translation", "cmdApply", &frmMain::OnApply);
+    row->Add(CreateButton(*panel_, "Quit", "cmdQuit", &frmMain::OnQuit));
+    column.Add(row, wxSizerFlags().Expand().Border(wxTOP, FromDIP(kWindowMargin)));
+}
+
+wxButton* frmMain::CreateButton(wxWindow& parent, const char* caption, const char* name,
+                                Action onClick) {
+    auto* button = NamedButton(&parent, wxID_ANY, caption, name);
+    button->Bind(wxEVT_BUTTON, [this, onClick](wxCommandEvent&) { Guarded(onClick); });
+    return button;
+}
+
+// The keys stand in no menu: captions are the same as ever.
+void frmMain::CreateKeys() {
+    struct Key {
+        int modifiers;
+        int code;
+        KeyId id;
+        Action action;
+    };
+    constexpr Key kKeys[] = {
+        {wxACCEL_CTRL, 'S', SaveKey, &frmMain::OnUpdate},
+        {wxACCEL_CTRL, WXK_RETURN, SaveAndNextKey, &frmMain::OnSaveAndNext},
+        {wxACCEL_CTRL, WXK_NUMPAD_ENTER, SaveAndNextKey, &frmMain::OnSaveAndNext},
+        {wxACCEL_CTRL, WXK_DOWN, NextKey, &frmMain::OnNext},
+        {wxACCEL_CTRL, WXK_UP, PreviousKey, &frmMain::OnPrevious},
+        {wxACCEL_CTRL | wxACCEL_SHIFT, WXK_DOWN, NextUntranslatedKey, &frmMain::OnNextUntranslated},
+        {wxACCEL_CTRL, 'F', FindKey, &frmMain::OnFind},
+        {wxACCEL_NORMAL, WXK_F3, FindNextKey, &frmMain::OnFindNext},
+        {wxACCEL_CTRL, 'Z', UndoKey, &frmMain::OnUndo},
+    };
+    std::vector<wxAcceleratorEntry> entries;
+    for (const Key& key : kKeys) {
+        entries.emplace_back(key.modifiers, key.code, key.id);
+        if (key.code != WXK_NUMPAD_ENTER)
+            OnCommand(key.id, key.action);
+    }
+    SetAcceleratorTable(wxAcceleratorTable(static_cast<int>(entries.size()), entries.data()));
+}
+
+void frmMain::OnCommand(int id, Action action) {
+    Bind(
+        wxEVT_MENU, [this, action](wxCommandEvent&) { Guarded(action); }, id);
+}
+
+void frmMain::Guarded(Action action) {
+    ShowingErrors(program_.messages, [this, action] { (this->*action)(); });
+}
+
+void frmMain::OnResized(wxSizeEvent& event) {
+    event.Skip();
+    Label7->SetLabel(kDescription);
+    Label7->Wrap(event.GetSize().x - 2 * FromDIP(kWindowMargin));
+    panel_->Layout();
+    const int width = lvwTokenDetails->GetClientSize().x;
+    lvwTokenDetails->SetColumnWidth(0, width * 2 / 5);
+    lvwTokenDetails->SetColumnWidth(1, width - width * 2 / 5);
+}
+
+}  // namespace cvlang

@@ -1,0 +1,10 @@
+#include "config/Waiting.h"
+
+namespace cvlang {
+
+WaitDisplay& WaitDisplay::None() {
+    static WaitDisplay none;
+    return none;
+}
+
+}  // namespace cvlang

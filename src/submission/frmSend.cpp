@@ -1,0 +1,154 @@
+#include "submission/frmSend.h"
+
+#include <wx/button.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+
+#include <utility>
+
+#include "platform/Ansi.h"
+#include "platform/Paths.h"
+#include "widgets/Dialogs.h"
+#include "widgets/ErrorGuard.h"
+#include "widgets/Layout.h"
+#include "widgets/Text.h"
+#include "widgets/TextBox.h"
+#include "widgets/frmWait.h"
+
+namespace cvlang {
+namespace {
+
+const wxSize kBodySize(640, 240);
+
+/// Labels with their boxes beside them, below what the column holds already.
+wxSizer& AddFields(const wxWindow& window, wxSizer& column) {
+    const int gap = window.FromDIP(kGap);
+    auto* fields = new wxFlexGridSizer(2, wxSize(gap, gap));
+    fields->AddGrowableCol(1);
+    column.Add(fields, wxSizerFlags().Expand());
+    return *fields;
+}
+
+TextBox* AddField(wxWindow& parent, wxSizer& fields, const char* labelName, const char* caption,
+                  const char* name) {
+    auto* label = new wxStaticText(&parent, wxID_ANY, caption);
+    label->SetName(labelName);
+    fields.Add(label, wxSizerFlags().CentreVertical());
+    return AddToColumn(fields, new TextBox(&parent, name));
+}
+
+}  // namespace
+
+frmSend::frmSend(wxWindow* parent, Program& program, SubmissionTarget target)
+    : wxDialog(parent, wxID_ANY, "Submit Language Files", wxDefaultPosition, wxDefaultSize,
+               kDialogStyle, "frmSend"),
+      program_(program),
+      target_(std::move(target)) {
+    wxSizer& column = StartColumn(*this);
+    wxSizer& heading = AddFields(*this, column);
+    txtTo = AddField(*this, heading, "Label1", "To:", "txtTo");
+    txtFrom = AddField(*this, heading, "Label2", "From:", "txtFrom");
+    txtSubject = AddField(*this, heading, "Label3", "Subject:", "txtSubject");
+    column.AddSpacer(FromDIP(kGap));
+    txtBody = AddToColumn(
+        column,
+        new wxTextCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, FromDIP(kBodySize),
+                       wxTE_MULTILINE, wxDefaultValidator, "txtBody"),
+        1);
+    column.AddSpacer(FromDIP(kGap));
+    txtAttachments =
+        AddField(*this, AddFields(*this, column), "Label4", "Attachments:", "txtAttachments");
+    txtAttachments->SetEditable(false);
+    AddButtons(column);
+    GetSizer()->SetSizeHints(this);
+    CentreOnParent();
+    txtFrom->SetFocus();  // the only box that always has to be filled in
+}
+
+void frmSend::AddButtons(wxSizer& column) {
+    auto* cmdSend = NamedButton(this, wxID_OK, "Send", "cmdSend");
+    auto* cmdCancel = NamedButton(this, wxID_CANCEL, "Cancel", "cmdCancel");
+    cmdSend->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
+        ShowingErrors(program_.messages, [this] { OnSend(); });
+    });
+    cmdCancel->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EndDialog(wxID_CANCEL); });
+    // In a sizer of their own: all the height that is left belongs to the body.
+    auto* footer = new wxBoxSizer(wxVERTICAL);
+    AddDialogButtons(*this, *footer, cmdSend, cmdCancel);
+    column.Add(footer, wxSizerFlags().Expand());
+}
+
+void frmSend::SubmitFile(const std::filesystem::path& sMapFilePath,
+                         const std::filesystem::path& sLangFilePath, std::u16string_view sApp,
+                         std::u16string_view sLanguage, std::u16string_view sBase) {
+    SetMessageText(sApp, sBase, sLanguage);
+    Attach({sMapFilePath, sLangFilePath});
+    ShowModal();
+}
+
+void frmSend::SubmitAllFiles(const std::filesystem::path& sMapFilePath, std::u16string_view sApp,
+                             std::u16string_view sBase) {
+    SetMessageText(sApp, sBase, kAllLanguages);
+    const auto files = MapFilesOfBase(sMapFilePath, sApp, sBase);
+    if (files.empty()) {
+        program_.messages.Show(NothingToSubmit(sBase));
+        return;
+    }
+    Attach(files);
+    ShowModal();
+}
+
+void frmSend::SetMessageText(std::u16string_view application, std::u16string_view base,
+                             std::u16string_view language) {
+    txtTo->Load(target_.mailbox);
+    txtSubject->Load(SubmissionSubject(application, base, language));
+    txtBody->ChangeValue(ToWx(SubmissionBody(application, base, language)));
+}
+
+/// Starts a new message, which has these attachments and no others.
+void frmSend::Attach(const std::vector<std::filesystem::path>& files) {
+    MailSurroundings surroundings;
+    surroundings.processPendingEvents = RepaintWindows;
+    surroundings.beforeCommand = [this] { program_.waiting->Step(); };
+    message_ = std::make_unique<Message>(program_.config, program_.logs, std::move(surroundings));
+    std::u16string names;
+    for (const std::filesystem::path& file : files) {
+        const std::u16string name = TextFromPath(file.filename());
+        message_->AddFile(file, Utf16ToAnsi(name));
+        names += (names.empty() ? u"" : u", ") + name;
+    }
+    txtAttachments->Load(names);
+}
+
+bool frmSend::ValidateAddresses() {
+    const auto fault = FaultOfAddresses(txtTo->Text(), txtFrom->Text());
+    if (!fault)
+        return true;
+    program_.messages.Show(fault->message);
+    TextBox* box = fault->box == AddressBox::To ? txtTo : txtFrom;
+    box->SetFocus();
+    box->SelectAll();
+    return false;
+}
+
+void frmSend::OnSend() {
+    if (!ValidateAddresses() || program_.messages.Show(ConfirmSubmission()) != MessageAnswer::Yes)
+        return;
+    Send();
+    // Whatever became of it: users ask the activity log when nothing arrives.
+    program_.messages.Show(SubmissionSent());
+    EndDialog(wxID_OK);
+}
+
+void frmSend::Send() {
+    const WaitScope wait(*program_.waiting);
+    message_->MailTo = Utf16ToAnsi(txtTo->Text());
+    message_->MailFrom = Utf16ToAnsi(txtFrom->Text());
+    message_->Subject = Utf16ToAnsi(txtSubject->Text());
+    message_->MessageBody = Utf16ToAnsi(WithMailLineEnds(FromWx(txtBody->GetValue())));
+    message_->Server = Utf16ToAnsi(target_.server);
+    message_->ServerPort = target_.port;
+    message_->SendMessage();
+}
+
+}  // namespace cvlang

@@ -1,0 +1,13 @@
+// The last net under what windows do.
+#pragma once
+
+#include <functional>
+
+#include "config/UserMessages.h"
+
+namespace cvlang {
+
+/// Runs an action. An error that it raises is shown with its text, and the window lives on.
+void ShowingErrors(UserMessages& messages, const std::function<void()>& action);
+
+}  // namespace cvlang

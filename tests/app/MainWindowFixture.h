@@ -1,0 +1,57 @@
+// The main window on a small installation of real files.
+#pragma once
+
+#include "app/frmMain.h"
+#include "support/FakeProgram.h"
+#include "support/WindowScript.h"
+#include "widgets/MessageBoxes.h"
+
+namespace cvlang {
+
+inline constexpr const char* kReferenceMap = "WebMail-default.net-tokens.map";
+inline constexpr const char* kFrenchMap = "WebMail-default.net-tokens-fr.map";
+inline constexpr const char* kLanguageList = "WebMail-default.net-lang.txt";
+
+class MainWindow : public testing::Test {
+  protected:
+    MainWindow() {
+        PutFile("NETWebMail/default/lang/SYS/Login.aspx", "[CV_TXT-HELLO]\r\n");
+        PutFile("NETWebMail/zephra/x", "");
+        PutFile(kReferenceMap, Utf16Bytes(u"\t\t\t[CV_TXT-HELLO]\tHello: you\r\n"
+                                          u"\t\t\t[CV_TXT-BYE]\tGoodbye\r\n"
+                                          u"\t\t\t[CV_TXT-NEW]\t\r\n"));
+        PutFile(kFrenchMap, Utf16Bytes(u"[CV_TXT-HELLO]\tBonjour\r\n[CV_TXT-BYE]\tAu revoir\r\n"));
+    }
+    ~MainWindow() override {
+        if (window_ != nullptr) {
+            window_->Destroy();
+            Settle();
+        }
+    }
+
+    /// The window, opened when it is first asked for.
+    frmMain& Window(const MakerServices& services = {}) {
+        if (window_ == nullptr) {
+            window_ = new frmMain(program_, services);
+            window_->Show();
+            Settle();
+        }
+        return *window_;
+    }
+
+    std::u16string Translation() { return Find<TextBox>(Window(), "txtTranslation").Text(); }
+    std::u16string Token() { return Find<SelectionList>(Window(), "lbxTokens").SelectedText(); }
+    const std::vector<std::u16string>& Entries(const char* list) {
+        return Find<SelectionList>(Window(), list).Entries();
+    }
+
+    FakeProgram fake_;
+    MessageBoxes boxes_;
+    Program program_{fake_.config, fake_.logs, boxes_};
+    WindowScript script_;
+
+  private:
+    frmMain* window_ = nullptr;
+};
+
+}  // namespace cvlang

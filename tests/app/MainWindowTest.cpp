@@ -1,0 +1,283 @@
+#include <wx/clipbrd.h>
+#include <wx/gauge.h>
+#include <wx/listctrl.h>
+#include <wx/menu.h>
+#include <wx/stattext.h>
+#include <wx/textdlg.h>
+#include <wx/uiaction.h>
+
+#include "app/MainWindowFixture.h"
+#include "widgets/Text.h"
+
+namespace cvlang {
+namespace {
+
+constexpr long kInformation = wxOK | wxICON_INFORMATION;
+
+using List = std::vector<std::u16string>;
+
+wxString MenuText(const wxMenuBar& bar) {
+    wxString text;
+    for (std::size_t i = 0; i < bar.GetMenuCount(); ++i) {
+        text += bar.GetMenuLabel(i) + ":";
+        for (const wxMenuItem* item : bar.GetMenu(i)->GetMenuItems())
+            text += item->IsSeparator() ? " - |" : " " + item->GetItemLabel() + " |";
+    }
+    return text;
+}
+
+TEST_F(MainWindow, ShowsItsCaptionsAndFitsASmallScreen) {
+    EXPECT_EQ(Window().GetTitle(), "Corvane Language Translation Tool");
+    const std::pair<const char*, const char*> captions[] = {
+        {"Label7",
+         "This utility allows the customization of different languages for Corvane WebMail and "
+         "WebAdmin. Once you have made changes to a language, you can also submit the modificatons "
+         "to Corvane so they can be used by others."},
+        {"Label1", "Current Application:"},
+        {"Label2", "Application Base:"},
+        {"Label3", "Target Language:"},
+        {"Label6", "Tokens:"},
+        {"Frame1", "Token Details"},
+        {"Label5", "Original Token:"},
+        {"Label4", "Translated Token Value:"},
+        {"cmdUpdate", "Update File"},
+        {"cmdAddToken", "Add Token..."},
+        {"cmdRemoveToken", "Remove Token..."},
+        {"cmdApply", "Apply Translation"},
+        {"cmdQuit", "Quit"},
+    };
+    for (const auto& [name, caption] : captions) {
+        wxString shown = Find<wxWindow>(Window(), name).GetLabel();
+        shown.Replace("\n", " ");  // where it is wrapped
+        EXPECT_EQ(shown, caption) << name;
+    }
+    EXPECT_EQ(MenuText(*Window().GetMenuBar()),
+              "&File: &Fetch Default Translation | &Add New Language... | - | &Exit |"
+              "&Submit: S&ubmit Active Translation | Submit &All Translations |"
+              "&Help: &About.. |");
+    const wxSize smallest = Window().GetMinSize();
+    EXPECT_LE(smallest.x, 1024);
+    EXPECT_LE(smallest.y, 740);
+}
+
+TEST_F(MainWindow, OpensWithNoLanguageAndListsTokensWhenOneIsClicked) {
+    EXPECT_EQ(Entries("lstApplication"), List({u"WebMail", u"WebAdmin"}));
+    EXPECT_EQ(Entries("lstBases"), List({u"default.net", u"zephra.net"}));
+    EXPECT_EQ(Entries("lstLanguages").size(), 13U);
+    EXPECT_TRUE(Entries("lbxTokens").empty());
+
+    Pick(Window(), "lstLanguages", u"French");
+    EXPECT_EQ(Entries("lbxTokens"),
+              List({u"[CV_TXT-HELLO]: Hello: you", u"[CV_TXT-BYE]: Goodbye", u"[CV_TXT-NEW]"}));
+    EXPECT_EQ(Translation(), u"Bonjour");
+    const auto& details = Find<wxListCtrl>(Window(), "lvwTokenDetails");
+    EXPECT_EQ(details.GetItemText(0, 0) + "|" + details.GetItemText(0, 1), "[CV_TXT-HELLO]|Hello");
+
+    Pick(Window(), "lbxTokens", u"[CV_TXT-NEW]");
+    EXPECT_EQ(details.GetItemText(0, 0) + "|" + details.GetItemText(0, 1), "[CV_TXT-NEW]|");
+    EXPECT_EQ(Translation(), u"");
+
+    // Another base forgets the language; the tokens stay until one is clicked.
+    Pick(Window(), "lstBases", u"zephra.net");
+    EXPECT_EQ(Find<SelectionList>(Window(), "lstLanguages").SelectedText(), u"");
+    EXPECT_EQ(Entries("lbxTokens").size(), 3U);
+    Pick(Window(), "lstLanguages", u"French");
+    EXPECT_TRUE(Entries("lbxTokens").empty());
+
+    Pick(Window(), "lstApplication", u"WebAdmin");
+    EXPECT_EQ(program_.CurrentApplication, u"WebAdmin");
+    EXPECT_EQ(FileBytes("WebAdmin-WebAdmin-lang.txt").substr(0, 12), "Chinese\tzh\r\n");
+}
+
+TEST_F(MainWindow, SavesWhatIsTypedAndNothingElse) {
+    // Right to left, beyond the first plane, half a pair, and more than a box of GTK holds.
+    const std::u16string values[] = {u"\u05E9\u05DC\u05D5\u05DD \u65E5\u672C\uD55C",
+                                     u"\U0001F600 \u0391\u03B8", u"a\xD800z",
+                                     std::u16string(70000, u'x')};
+    Pick(Window(), "lstLanguages", u"French");
+    for (const std::u16string& value : values) {
+        const std::string bytes =
+            Utf16Bytes(u"[CV_TXT-HELLO]\t" + value + u"\r\n[CV_TXT-BYE]\tAu revoir\r\n");
+        PutFile(kFrenchMap, bytes);
+        Pick(Window(), "lbxTokens", u"[CV_TXT-BYE]: Goodbye");
+        Pick(Window(), "lbxTokens", u"[CV_TXT-HELLO]: Hello: you");
+        Press(Window(), "cmdUpdate");
+        EXPECT_EQ(FileBytes(kFrenchMap), bytes);
+        if (value.size() < 100) {
+            Pick(Window(), "lbxTokens", u"[CV_TXT-NEW]");
+            Type(Window(), "txtTranslation", value);
+            Press(Window(), "cmdUpdate");
+            EXPECT_EQ(FileBytes(kFrenchMap),
+                      bytes + Utf16Bytes(u"[CV_TXT-NEW]\t" + value + u"\r\n").substr(2));
+        }
+    }
+    // A map file that vanishes under the window is made anew, with this one line.
+    std::filesystem::remove(kFrenchMap);
+    Pick(Window(), "lbxTokens", u"[CV_TXT-BYE]: Goodbye");
+    EXPECT_EQ(Translation(), u"");
+    Type(Window(), "txtTranslation", u"Adieu");
+    Press(Window(), "cmdUpdate");
+    EXPECT_EQ(FileBytes(kFrenchMap), Utf16Bytes(u"[CV_TXT-BYE]\tAdieu\r\n"));
+    EXPECT_EQ(Entries("lbxTokens")[1], u"[CV_TXT-BYE]: Goodbye");
+}
+
+TEST_F(MainWindow, AppliesATranslationAndSaysSoWhateverHappened) {
+    Pick(Window(), "lstLanguages", u"French");
+    script_.ExpectBox("Language Generation",
+                      "Translated web pages were generated sucessfully for French language.",
+                      kInformation);
+    Press(Window(), "cmdApply");
+    EXPECT_EQ(FileBytes("NETWebMail/default/lang/fr/Login.aspx"),
+              "\xEF\xBB\xBF"
+              "Bonjour");
+    EXPECT_EQ(FileBytes("LANGUAGES.TAB"), Utf16Bytes(u"fr\tFrench\r\n"));
+
+    Pick(Window(), "lstBases", u"zephra.net");  // has no pages, and no language is selected
+    script_.ExpectBox("Language Generation",
+                      "Translated web pages were generated sucessfully for  language.",
+                      kInformation);
+    Press(Window(), "cmdApply");
+    EXPECT_EQ(FileBytes("LANGUAGES.TAB"), Utf16Bytes(u"fr\tFrench\r\n"));
+}
+
+TEST_F(MainWindow, CannotBeUsedWhileItAsksForPatience) {
+    Window();
+    program_.waiting->Begin();
+    auto& wait = Find<wxWindow>(Window(), "frmWait");
+    EXPECT_EQ(wait.GetLabel(), "Please Wait ...");
+    EXPECT_EQ(Find<wxWindow>(wait, "lblStatusMessage").GetLabel(),
+              "Corvane setup is now processing your request.");
+    EXPECT_EQ(Find<wxWindow>(wait, "lblTimeMessage").GetLabel(),
+              "This process may take several minutes. Please wait...");
+    EXPECT_TRUE(wait.IsShown() && wxIsBusy() && !Window().IsEnabled());
+    program_.waiting->Expect([] { return 4; });
+    wxMilliSleep(60);
+    program_.waiting->Step();
+    EXPECT_EQ(Find<wxGauge>(wait, "gauge").GetValue(), 1);
+    program_.waiting->End();
+    Settle();
+    EXPECT_TRUE(!wxIsBusy() && Window().IsEnabled());
+    EXPECT_EQ(wxWindow::FindWindowByName("frmWait"), nullptr);
+}
+
+TEST_F(MainWindow, WorksWithoutAnyBase) {
+    std::filesystem::remove_all("NETWebMail");
+    script_.ExpectBox("Setup Issue", "Error: No web applications wewre detected",
+                      wxOK | wxICON_ERROR);
+    EXPECT_TRUE(Entries("lstBases").empty());
+    EXPECT_TRUE(Window().IsShown());
+    Press(Window(), "cmdRemoveToken");
+    script_.ExpectBox("Help About..", "Corvane Language Translation Utility (Version 3.0)",
+                      kInformation);
+    Choose(Window(), frmMain::mnuHelpAbout);
+    Press(Window(), "cmdUpdate");
+    EXPECT_EQ(FileBytes("WebMail--tokens-.map"), Utf16Bytes(u"\t\r\n"));
+}
+
+class FailingRegistry : public Registry {
+  public:
+    std::u16string ReadString(std::u16string_view, std::u16string_view) const override {
+        throw std::runtime_error("The registry is gone");
+    }
+    std::int32_t ReadDword(std::u16string_view, std::u16string_view) const override { return 0; }
+};
+
+TEST_F(MainWindow, LivesOnAfterAnUnexpectedError) {
+    const FailingRegistry registry;
+    const Configuration config(registry);
+    Program program{config, fake_.logs, boxes_};
+    for (int i = 0; i < 2; ++i)
+        script_.ExpectBox("CVLangTranslator", "The registry is gone", wxOK | wxICON_ERROR);
+    frmMain window(program, {});
+    Press(window, "cmdUpdate");
+}
+
+class MainWindowKeys : public MainWindow {
+  protected:
+    void SetUp() override {
+        if (wxPlatformInfo::Get().GetPortId() != wxPORT_GTK)
+            GTEST_SKIP() << "simulated keys do not arrive here";
+        Window().Raise();
+        Settle();
+    }
+
+    /// A key goes to whatever has the focus.
+    static void Key(int code, int modifiers = wxMOD_NONE) {
+        wxUIActionSimulator().Char(code, modifiers);
+        WaitForKeys();
+    }
+    static void WaitForKeys() {
+        for (int i = 0; i < 10; ++i) {
+            wxMilliSleep(10);
+            Settle();
+        }
+    }
+};
+
+TEST_F(MainWindowKeys, WalkThroughAllControlsWithoutClickingAnything) {
+    Find<wxWindow>(Window(), "lstApplication").SetFocus();
+    wxString names;
+    for (int i = 0; i < 11; ++i) {
+        names += wxWindow::FindFocus()->GetName() + " ";
+        Key(WXK_TAB);
+    }
+    EXPECT_EQ(names,
+              "lstApplication lstBases lstLanguages lbxTokens lvwTokenDetails txtTranslation "
+              "cmdUpdate cmdAddToken cmdRemoveToken cmdApply cmdQuit ");
+    EXPECT_EQ(Find<SelectionList>(Window(), "lstLanguages").SelectedText(), u"");
+
+    Find<wxWindow>(Window(), "lstLanguages").SetFocus();
+    Key(WXK_DOWN);  // an arrow key does click
+    EXPECT_NE(Find<SelectionList>(Window(), "lstLanguages").SelectedText(), u"");
+    EXPECT_EQ(Entries("lbxTokens").size(), 3U);
+}
+
+TEST_F(MainWindowKeys, SaveFindAndMoveOn) {
+    Pick(Window(), "lstLanguages", u"French");
+    Find<wxWindow>(Window(), "txtTranslation").SetFocus();
+    Find<TextBox>(Window(), "txtTranslation").SetInsertionPointEnd();
+    wxUIActionSimulator().Text("ab");
+    WaitForKeys();
+    EXPECT_EQ(Translation(), u"Bonjourab");
+    Key('Z', wxMOD_CONTROL);
+    EXPECT_EQ(Translation(), u"Bonjour");
+    Key('C');
+    Key('S', wxMOD_CONTROL);
+    EXPECT_EQ(FileBytes(kFrenchMap),
+              Utf16Bytes(u"[CV_TXT-HELLO]\tBonjourc\r\n[CV_TXT-BYE]\tAu revoir\r\n"));
+    Key('D');
+    Key(WXK_RETURN, wxMOD_CONTROL);
+    EXPECT_EQ(FileBytes(kFrenchMap),
+              Utf16Bytes(u"[CV_TXT-HELLO]\tBonjourcd\r\n[CV_TXT-BYE]\tAu revoir\r\n"));
+    EXPECT_EQ(Token(), u"[CV_TXT-BYE]: Goodbye");
+    Key(WXK_UP, wxMOD_CONTROL);
+    EXPECT_EQ(Token(), u"[CV_TXT-HELLO]: Hello: you");
+    Key(WXK_DOWN, wxMOD_CONTROL | wxMOD_SHIFT);
+    EXPECT_EQ(Token(), u"[CV_TXT-NEW]");
+    script_.ExpectDialog("dialog", [](wxDialog& dialog) {
+        dynamic_cast<wxTextEntryDialog&>(dialog).SetValue("goodbye");
+        dialog.EndModal(wxID_OK);
+    });
+    Key('F', wxMOD_CONTROL);
+    EXPECT_EQ(Token(), u"[CV_TXT-BYE]: Goodbye");
+    Key(WXK_F3);
+    EXPECT_EQ(Token(), u"[CV_TXT-BYE]: Goodbye");
+    Key(WXK_DOWN, wxMOD_CONTROL);
+    EXPECT_EQ(Token(), u"[CV_TXT-NEW]");
+    Key(WXK_DOWN, wxMOD_CONTROL);
+    EXPECT_EQ(Token(), u"[CV_TXT-NEW]");
+}
+
+TEST_F(MainWindowKeys, PasteOnOneLine) {
+    Pick(Window(), "lstLanguages", u"French");
+    Pick(Window(), "lbxTokens", u"[CV_TXT-NEW]");
+    Find<wxWindow>(Window(), "txtTranslation").SetFocus();
+    ASSERT_TRUE(wxTheClipboard->Open());
+    wxTheClipboard->SetData(new wxTextDataObject("a\r\nb\tc\nd"));
+    wxTheClipboard->Close();
+    Key('V', wxMOD_CONTROL);
+    EXPECT_EQ(Translation(), u"a b c d");
+}
+
+}  // namespace
+}  // namespace cvlang

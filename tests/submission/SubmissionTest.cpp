@@ -1,0 +1,59 @@
+#include "submission/Submission.h"
+
+#include <gtest/gtest.h>
+
+#include "support/Files.h"
+
+namespace cvlang {
+namespace {
+
+TEST(Submission, TheMessageTellsWhatIsAttached) {
+    EXPECT_EQ(SubmissionSubject(u"WebMail", u"default.net", u"French"),
+              u"[Language Token File Submission]: WebMail - default.net (French)");
+    EXPECT_EQ(SubmissionBody(u"WebMail", u"default.net", u"French"),
+              u"Dear Support Team,\r\n\r\nI have attached the language token files for the "
+              u"following: \r\n\r\nApplication: \tWebMail\r\nBase: \t\tdefault.net\r\n"
+              u"Language: \t\tFrench\r\n\r\nRegards,\r\n");
+    EXPECT_EQ(WithMailLineEnds(u"a\nb\r\n\r\rc\r\n\n"), u"a\r\nb\r\n\r\n\r\nc\r\n\r\n");
+}
+
+TEST(Submission, AllMapFilesOfTheBaseAreFoundByTheirExactName) {
+    const TemporaryFolder folder;
+    const auto reference = folder / "A-b.net-tokens.map";
+    EXPECT_TRUE(MapFilesOfBase(reference, u"A", u"b.net").empty());
+    for (const char* name :
+         {"A-b.net-tokens-fr.map", "A-b.net-tokens.map", "A-b.net-TOKENS-de.map",
+          "a-b.net-tokens-it.map", "A-b.net-tokens-ja.MAP", "A-b.net-tokens-es.map.bak",
+          "A-b.net-_tokens-pt.map", "A-bxnet-tokens.map", "A-b.net-tokens.fr"})
+        PutFile(folder / name, "");
+    std::filesystem::create_directory(folder / "A-b.net-tokens-folder.map");
+    const std::vector<std::filesystem::path> expected{folder / "A-b.net-tokens-fr.map", reference};
+    EXPECT_EQ(MapFilesOfBase(reference, u"A", u"b.net"), expected);
+}
+
+TEST(Submission, TheFirstFaultyAddressIsTold) {
+    const std::u16string ask = u"Please specify a valid email address for the '";
+    const struct {
+        const char16_t *to, *from;
+        std::u16string fault;
+    } cases[] = {
+        {u"@x", u"a@b", u""},
+        {u"a@@", u" @ ", u""},
+        {u"", u"", ask + u"To' field."},
+        {u"a@", u"", u"Invalid recipient address. " + ask + u"To' field."},
+        {u"ab", u"a@b", u"Invalid recipient address. " + ask + u"To' field."},
+        {u"a@b", u"", ask + u"From' field."},
+        {u"a@b", u"a@", u"Invalid sender address. " + ask + u"From' field."},
+    };
+    for (const auto& [to, from, text] : cases) {
+        const auto fault = FaultOfAddresses(to, from);
+        ASSERT_EQ(fault.has_value(), !text.empty());
+        if (fault) {
+            EXPECT_EQ(fault->message.text, text);
+            EXPECT_EQ(fault->box == AddressBox::To, text.find(u"'To'") != text.npos);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace cvlang

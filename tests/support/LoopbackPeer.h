@@ -1,0 +1,54 @@
+// A server on this computer that serves one client.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <thread>
+
+#include "support/LoopbackListener.h"
+
+namespace cvlang {
+
+class LoopbackPeer {
+  public:
+    /// What is served runs in a thread of its own, once the client is there.
+    explicit LoopbackPeer(std::function<void(LoopbackPeer&)> serve)
+        : thread_([this, serve = std::move(serve)] {
+              client = listener_.Accept();
+              serve(*this);
+              CloseSocket(client);
+          }) {}
+    ~LoopbackPeer() { Received(); }
+
+    std::uint16_t Port() const { return static_cast<std::uint16_t>(listener_.Port()); }
+
+    /// All that the client has sent, once it was served.
+    std::string Received() {
+        if (thread_.joinable())
+            thread_.join();
+        return received_;
+    }
+
+    bool ReceiveByte() {
+        char byte = 0;
+        const bool came = ReceiveBytes(client, &byte, 1) == 1;
+        received_.append(came ? 1 : 0, byte);
+        return came;
+    }
+
+    bool ReceiveUntil(std::string_view end) {
+        bool came = ReceiveByte();
+        while (came && !received_.ends_with(end))
+            came = ReceiveByte();
+        return came;
+    }
+
+    SocketHandle client = kNoSocket;
+
+  private:
+    const LoopbackListener listener_;
+    std::string received_;
+    std::thread thread_;
+};
+
+}  // namespace cvlang
