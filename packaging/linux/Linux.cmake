@@ -3,9 +3,11 @@ string(TOLOWER ${PROJECT_NAME} package)
 set(documentation_folder ${CMAKE_INSTALL_DATADIR}/doc/${package})
 
 install(TARGETS CVLangTranslator RUNTIME)
-# The windows are a module of their own, which the program looks for in this folder.
+# The windows are a module of their own, which nobody but the program loads. Not below lib/: for that CPack
+# would have ldconfig run at each installation.
 if(TARGET CVLangTranslatorWindow)
-    install(TARGETS CVLangTranslatorWindow LIBRARY DESTINATION lib/cvlangtranslator)
+    install(TARGETS CVLangTranslatorWindow LIBRARY DESTINATION libexec/${package})
+    set_target_properties(CVLangTranslator PROPERTIES INSTALL_RPATH "$ORIGIN:$ORIGIN/../libexec/${package}")
 endif()
 
 install(FILES linux/${package}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
