@@ -106,8 +106,8 @@ class PicturesApp : public wxApp {
     void TakeAll() {
         auto& languages = Find<SelectionList>(*window_, "lstLanguages");
         const auto& names = languages.Entries();
-        languages.Click(static_cast<std::size_t>(
-            std::find(names.begin(), names.end(), language_) - names.begin()));
+        languages.Click(static_cast<std::size_t>(std::find(names.begin(), names.end(), language_) -
+                                                 names.begin()));
         Find<SelectionList>(*window_, "lbxTokens").Click(2);
         TakePicture("main-window", *window_);
         ShowDialogs();
