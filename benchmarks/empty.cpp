@@ -1,0 +1,2 @@
+// Does nothing: what starting and ending a program takes.
+int main() {}
