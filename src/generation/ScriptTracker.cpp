@@ -17,17 +17,21 @@ bool StartsWith(std::string_view text, std::string_view upperMarker) {
                       });
 }
 
-constexpr std::size_t kLookAhead = 2;
+constexpr std::size_t kLookAhead = 3;
 
-/// Whether "scr" stands at one of the `size` characters from `text`, behind which kLookAhead more
-/// can be read. Written so that the compiler looks at many characters at once.
+/// Whether "<scr" or "/scr" stands at one of the `size` characters from `text`, behind which
+/// kLookAhead more can be read; seldom true otherwise. Written so that the compiler looks at many
+/// characters at once.
 bool MayHoldMarker(const char* text, std::size_t size) {
     constexpr unsigned kIgnoreCase = 0xDF;
     const auto* c = reinterpret_cast<const unsigned char*>(text);
-    unsigned char closest = kIgnoreCase;  // 0 when all three letters agree somewhere
+    unsigned char closest = 0xFF;  // 0 when everything agrees somewhere
     for (std::size_t i = 0; i < size; ++i) {
-        const unsigned difference = (c[i] ^ 's') | (c[i + 1] ^ 'c') | (c[i + 2] ^ 'r');
-        closest = std::min(closest, static_cast<unsigned char>(difference & kIgnoreCase));
+        // No letter makes the first part 0.
+        const unsigned difference =
+            ((c[i] ^ '<') & (c[i] ^ '/')) |
+            (((c[i + 1] ^ 's') | (c[i + 2] ^ 'c') | (c[i + 3] ^ 'r')) & kIgnoreCase);
+        closest = std::min(closest, static_cast<unsigned char>(difference));
     }
     return closest == 0;
 }
@@ -41,8 +45,8 @@ std::size_t FindMarker(std::string_view text, std::size_t from) {
     constexpr std::size_t kBlock = 256;
     while (from < text.size()) {
         const std::size_t size = std::min(kBlock, text.size() - from);
-        // A marker that begins in this block has its "scr" in it or at most two characters behind.
-        const std::size_t looked = size + 2;
+        // A marker that begins in this block has its slash in it or just behind.
+        const std::size_t looked = size + 1;
         if (text.size() - from < looked + kLookAhead || MayHoldMarker(text.data() + from, looked)) {
             for (std::size_t i = text.find('<', from); i < from + size; i = text.find('<', i + 1)) {
                 if (IsMarker(text.substr(i)))
@@ -67,15 +71,12 @@ bool Holds(std::string_view line, std::string_view marker) {
 bool ScriptTracker::IsScript(std::size_t lineEnd) {
     if (mode_ != ScriptMode::Tracked)
         return mode_ == ScriptMode::Always;
-    while (looked_ < lineEnd) {
-        const std::size_t marker = FindMarker(page_.substr(0, lineEnd), looked_);
-        if (marker == std::string_view::npos) {
-            looked_ = lineEnd;
-            break;
-        }
-        const std::size_t end = std::min(page_.find('\n', marker), page_.size());
-        inside_ = !Holds(page_.substr(marker, end - marker), kClosing);
-        looked_ = end;
+    if (!nextMarker_)
+        nextMarker_ = FindMarker(page_, 0);
+    while (*nextMarker_ < lineEnd) {
+        const std::size_t end = std::min(page_.find('\n', *nextMarker_), page_.size());
+        inside_ = !Holds(page_.substr(*nextMarker_, end - *nextMarker_), kClosing);
+        nextMarker_ = FindMarker(page_, end);
     }
     return inside_;
 }

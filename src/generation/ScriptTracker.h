@@ -1,6 +1,8 @@
 // Tells which lines of a page are script.
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string_view>
 
 namespace cvlang {
@@ -18,13 +20,13 @@ class ScriptTracker {
 
     /// Whether the line that ends at `lineEnd` is script: a line with "</SCRIPT>" is not, otherwise
     /// one with "<SCRIPT " is, otherwise it is what the line before it was. Asked of lines in
-    /// rising order; looks no further than it must.
+    /// rising order.
     bool IsScript(std::size_t lineEnd);
 
   private:
     std::string_view page_;
     ScriptMode mode_;
-    std::size_t looked_ = 0;
+    std::optional<std::size_t> nextMarker_;  // the page's first one behind the lines asked for
     bool inside_ = false;
 };
 
