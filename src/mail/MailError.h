@@ -34,4 +34,18 @@ class MailError : public std::runtime_error {
     std::string source_;
 };
 
+/// A connection that failed while a reply was awaited.
+class ReceiveError : public MailError {
+  public:
+    explicit ReceiveError(int socketNumber)
+        : MailError(MailErrorNumber::Receive, "SMTPProcessClientCommand",
+                    "Windows Sockets error " + std::to_string(socketNumber)),
+          socketNumber_(socketNumber) {}
+
+    int SocketNumber() const { return socketNumber_; }
+
+  private:
+    int socketNumber_;
+};
+
 }  // namespace cvlang

@@ -39,7 +39,7 @@ Message::Message(const Configuration& config, const Logs& logs, MailSurroundings
 
 void Message::AddHeader(std::string_view sHeader) {
     if (!sHeader.empty())
-        extraHeaders_.append(sHeader).append(kLineEnd);
+        extraHeaders_.append(sHeader).append(kMailLineEnd);
 }
 
 void Message::ClearHeaders() {
@@ -80,6 +80,10 @@ std::string Message::EncodeByteArr(std::string_view bytInput) {
 int Message::SendMessage() {
     try {
         return Send() ? 1 : 0;
+    } catch (const ReceiveError& error) {
+        LogActivity(ErrorString);  // which says more than the error
+        ErrorString = error.Description();
+        return 0;
     } catch (const MailError& error) {
         ErrorString = error.Description();
         LogActivity(ErrorString);

@@ -54,7 +54,7 @@ void AppendMixedBody(std::string& text, const MessageFields& fields, const BodyD
         text.append("Content-type: multipart/alternative; boundary=\"");
         text.append(details.innerBoundary).append("\"\r\n\r\n");
         AppendAlternatives(text, fields, details.innerBoundary);
-        text += kLineEnd;
+        text += kMailLineEnd;
     } else {
         AppendTextPart(text, "plain", fields.MessageBody);
     }

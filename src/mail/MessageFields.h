@@ -7,7 +7,7 @@
 
 namespace cvlang {
 
-inline constexpr std::string_view kLineEnd = "\r\n";
+inline constexpr std::string_view kMailLineEnd = "\r\n";
 inline constexpr int kSmtpPort = 25;
 /// The content type that makes a message's body HTML with a plain alternative.
 inline constexpr std::string_view kHtmlContentType = "text/html;";
@@ -44,6 +44,8 @@ struct MessageFields {
 
     /// The last error or the last report of a delivery.
     std::string ErrorString;
+    /// The recipients that the server refused, separated by ",".
+    std::string FailedRecipients;
 
     bool HasHtmlBody() const { return ContentType == kHtmlContentType; }
 };

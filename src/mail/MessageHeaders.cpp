@@ -9,7 +9,7 @@ namespace {
 class HeaderWriter {
   public:
     HeaderWriter& Line(std::string_view name, std::string_view value) {
-        text_.append(name).append(value).append(kLineEnd);
+        text_.append(name).append(value).append(kMailLineEnd);
         return *this;
     }
     std::string Text() && { return std::move(text_); }

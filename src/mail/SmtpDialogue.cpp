@@ -27,14 +27,21 @@ std::ptrdiff_t SendAll(SocketHandle socket, std::string_view bytes) {
 }  // namespace
 
 std::string SMTPProcessClientCommand(SocketHandle socket, std::string_view command,
-                                     std::string_view replyCodeSet, const Clock& clock) {
+                                     std::string_view replyCodeSet, const Clock& clock,
+                                     std::string& ErrorString) {
     const LocalTime start = clock();
     const bool tookNothing = !command.empty() && SendAll(socket, command) == 0;
     if (replyCodeSet.empty())
         return {};
     if (tookNothing)
         return std::string(replies::kGeneralError);
-    return WaitForReply(socket, replyCodeSet, clock, start);
+    try {
+        return WaitForReply(socket, replyCodeSet, clock, start);
+    } catch (const ReceiveError& error) {
+        ErrorString = "Windows Sockets error processing " + std::string(command) +
+                      " command: " + std::to_string(error.SocketNumber());
+        throw;
+    }
 }
 
 SmtpDialogue::SmtpDialogue(MessageFields& message, std::string heloName,
@@ -67,8 +74,8 @@ bool SmtpDialogue::SMTPConnect() {
         throw MailError(MailErrorNumber::Connect, "SMTPConnect",
                         "Failed to connect to mail server: Windows Sockets error " +
                             std::to_string(LastSocketError()));
-    const std::string code =
-        SMTPProcessClientCommand(connection_.Socket(), "", replies::kGreeting, surroundings_.clock);
+    const std::string code = SMTPProcessClientCommand(connection_.Socket(), "", replies::kGreeting,
+                                                      surroundings_.clock, message_.ErrorString);
     if (code == replies::kGreeted)
         return true;
     message_.ErrorString = "SMTP Server is not contactable for domain: " + server_;
@@ -105,13 +112,17 @@ void SmtpDialogue::NameSender() {
 
 void SmtpDialogue::NameRecipients(const std::vector<std::string>& recipients) {
     bool accepted = false;
+    message_.FailedRecipients.clear();
     for (const std::string& recipient : recipients) {
         lastRecipient_ = recipient;
         const std::string code = Command("RCPT TO:<" + recipient + ">", replies::kRcpt);
-        if (replies::IsIn(replies::kRcptRefused, code))
+        if (replies::IsIn(replies::kRcptRefused, code)) {
+            std::string& failed = message_.FailedRecipients;
+            failed.append(failed.empty() ? "" : ",").append(recipient);
             log_("Recipient failed to server " + Route());
-        else
+        } else {
             accepted = true;
+        }
     }
     if (!accepted)
         throw MailError(MailErrorNumber::NoRecipient, "RCPT",
@@ -137,8 +148,8 @@ bool SmtpDialogue::Report(std::string_view code) {
 
 std::string SmtpDialogue::Command(std::string line, std::string_view replyCodeSet) {
     surroundings_.beforeCommand();
-    return SMTPProcessClientCommand(connection_.Socket(), line.append(kLineEnd), replyCodeSet,
-                                    surroundings_.clock);
+    return SMTPProcessClientCommand(connection_.Socket(), line.append(kMailLineEnd), replyCodeSet,
+                                    surroundings_.clock, message_.ErrorString);
 }
 
 std::string SmtpDialogue::Route() const {

@@ -14,9 +14,10 @@ namespace cvlang {
 
 /// Sends a command's bytes, an empty one not at all, and returns the code of the set that the
 /// server replies with; see SmtpReplyCodes.h for what else it can be. An empty set is not waited
-/// for.
+/// for. When receiving fails, ErrorString says in which command, and the error is raised.
 std::string SMTPProcessClientCommand(SocketHandle socket, std::string_view command,
-                                     std::string_view replyCodeSet, const Clock& clock);
+                                     std::string_view replyCodeSet, const Clock& clock,
+                                     std::string& ErrorString);
 
 class SmtpDialogue {
   public:

@@ -10,11 +10,6 @@
 namespace cvlang {
 namespace {
 
-// The wait is not to yield to windows or to miss the end of the minute. A rest this short does
-// neither, delays no conversation that a person could notice, and leaves the processor to the
-// server, which may run beside us.
-constexpr std::chrono::milliseconds kRest{1};
-
 long MinuteOf(const LocalTime& time) {
     constexpr long kHours = 24;
     constexpr long kMinutes = 60;
@@ -29,8 +24,7 @@ std::string_view ReceiveWaiting(SocketHandle socket, std::vector<char>& buffer) 
     buffer.resize(std::max(buffer.size(), count + 1));
     const std::ptrdiff_t received = ReceiveBytes(socket, buffer.data(), count);
     if (received < 0)
-        throw MailError(MailErrorNumber::Receive, "SMTPProcessClientCommand",
-                        "Windows Sockets error " + std::to_string(LastSocketError()));
+        throw ReceiveError(LastSocketError());
     return {buffer.data(), static_cast<std::size_t>(received)};
 }
 
@@ -65,7 +59,8 @@ std::string WaitForReply(SocketHandle socket, std::string_view replyCodeSet, con
     while (MinuteBoundariesBetween(start, clock()) < 1) {
         const std::string_view piece = ReceiveWaiting(socket, buffer);
         if (piece.empty()) {
-            std::this_thread::sleep_for(kRest);
+            // No rest: only whoever else is ready to run goes first, as a server on this machine.
+            std::this_thread::yield();
             continue;
         }
         const std::string_view code = scanner.Add(piece);

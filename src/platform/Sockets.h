@@ -32,7 +32,7 @@ std::string FirstAddressOfHost(const std::string& name);
 
 SocketHandle OpenTcpSocket();
 /// Waits until the connection stands. 0 on success. From then on sending fails when the peer takes
-/// nothing for some minutes; one that is slow keeps its time.
+/// nothing for a minute; one that is slow keeps its time.
 int ConnectSocket(SocketHandle socket, AddressNumber address, std::uint16_t port);
 int CloseSocket(SocketHandle socket);
 

@@ -34,10 +34,10 @@ std::u16string WithNewValue(std::u16string_view text, std::u16string_view key,
         } else {
             rewritten += line;
         }
-        rewritten += kLineEnd;
+        rewritten += kStoreLineEnd;
     }
     if (!found)
-        rewritten += KeyedLine(key, value) + std::u16string(kLineEnd);
+        rewritten += KeyedLine(key, value) + std::u16string(kStoreLineEnd);
     return rewritten;
 }
 
@@ -59,7 +59,7 @@ void RewriteKeyedLine(const std::filesystem::path& target, const std::filesystem
             break;
         }
         case FileStatus::NotFound:
-            WriteUtf16File(file, KeyedLine(key, value) + std::u16string(kLineEnd));
+            WriteUtf16File(file, KeyedLine(key, value) + std::u16string(kStoreLineEnd));
             break;
         case FileStatus::OtherError: {
             // The same words for every file, although not every line is a token's.

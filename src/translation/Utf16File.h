@@ -9,7 +9,7 @@
 
 namespace cvlang {
 
-inline constexpr std::u16string_view kLineEnd = u"\r\n";
+inline constexpr std::u16string_view kStoreLineEnd = u"\r\n";
 
 /// A file's text as it was when it was read.
 class Utf16File {
@@ -21,6 +21,8 @@ class Utf16File {
     /// The text without a byte-order mark, an odd last byte dropped. It lives as long as the
     /// object.
     std::u16string_view Text() const;
+    /// Whether there is an odd last byte: nothing can be appended then.
+    bool EndsWithinCharacter() const { return content_.Bytes().size() % 2 != 0; }
 
   private:
     FileContent content_;

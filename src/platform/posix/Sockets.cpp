@@ -76,9 +76,10 @@ int ConnectSocket(SocketHandle socket, AddressNumber address, std::uint16_t port
     if (connect(static_cast<int>(socket), reinterpret_cast<const sockaddr*>(&peer), sizeof peer) !=
         0)
         return -1;
-    // Not before: it would cut connecting short, too.
-    return setsockopt(static_cast<int>(socket), SOL_SOCKET, SO_SNDTIMEO, &kSendPatience,
-                      sizeof kSendPatience);
+    // Not before: it would cut connecting short, too. Without it only the patience is missing.
+    [[maybe_unused]] const int ignored = setsockopt(
+        static_cast<int>(socket), SOL_SOCKET, SO_SNDTIMEO, &kSendPatience, sizeof kSendPatience);
+    return 0;
 }
 
 int CloseSocket(SocketHandle socket) {

@@ -77,8 +77,11 @@ int ConnectSocket(SocketHandle socket, AddressNumber address, std::uint16_t port
     peer.sin_addr.s_addr = address;
     if (connect(Native(socket), reinterpret_cast<const sockaddr*>(&peer), sizeof peer) != 0)
         return SOCKET_ERROR;
-    return setsockopt(Native(socket), SOL_SOCKET, SO_SNDTIMEO,
-                      reinterpret_cast<const char*>(&kSendPatience), sizeof kSendPatience);
+    // Without it only the patience is missing.
+    [[maybe_unused]] const int ignored =
+        setsockopt(Native(socket), SOL_SOCKET, SO_SNDTIMEO,
+                   reinterpret_cast<const char*>(&kSendPatience), sizeof kSendPatience);
+    return 0;
 }
 
 int CloseSocket(SocketHandle socket) {
