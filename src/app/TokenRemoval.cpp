@@ -1,5 +1,7 @@
 #include "app/TokenRemoval.h"
 
+#include "platform/FileSystem.h"
+#include "platform/Paths.h"
 #include "translation/TokenLines.h"
 
 namespace cvlang {
@@ -9,7 +11,7 @@ void RemoveTokenAsAsked(UserMessages& messages, const std::filesystem::path& ref
     const MessageAnswer answer =
         messages.Show({u"Also remove this token from all translated language files?",
                        u"Confirm Removal", MessageButtons::YesNoCancel});
-    if (answer == MessageAnswer::Cancel)
+    if (answer == MessageAnswer::Cancel || !EntryExists(FindExisting(referenceMapFile)))
         return;
     RemoveFromReferenceFile(referenceMapFile, token);
     if (answer == MessageAnswer::Yes)

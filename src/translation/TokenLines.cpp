@@ -41,7 +41,7 @@ void RemoveLines(const fs::path& mapFile, std::u16string_view token, TokenOfLine
     Lines<char16_t> lines(original.Text());
     for (std::u16string_view line; lines.Next(line);) {
         if (tokenOf(line) != token || tokenOf(line).empty())
-            kept.append(line).append(kLineEnd);
+            kept.append(line).append(kStoreLineEnd);
     }
     fs::path copy = file;
     copy += "D";
@@ -66,13 +66,16 @@ void AddTokenLine(const fs::path& referenceMapFile, std::u16string_view name,
                   std::u16string_view value) {
     const fs::path file = FindExisting(referenceMapFile);
     const Utf16File existing(file);
-    const bool inMiddleOfLine = !existing.Text().empty() && !existing.Text().ends_with(kLineEnd);
-    std::u16string line(inMiddleOfLine ? kLineEnd : u"");
-    line.append(u"\t\t\t[CV_TXT-").append(name).append(u"]\t").append(value).append(kLineEnd);
-    if (existing.Status() == FileStatus::NotFound) {
-        WriteUtf16File(file, line);
-    } else {
+    if (existing.Status() == FileStatus::OtherError)
+        return;
+    const bool inMiddleOfLine =
+        !existing.Text().empty() && !existing.Text().ends_with(kStoreLineEnd);
+    std::u16string line(inMiddleOfLine ? kStoreLineEnd : u"");
+    line.append(u"\t\t\t[CV_TXT-").append(name).append(u"]\t").append(value).append(kStoreLineEnd);
+    if (existing.Status() == FileStatus::Okay && !existing.EndsWithinCharacter()) {
         AppendToUtf16File(file, line);
+    } else {
+        WriteUtf16File(file, std::u16string(existing.Text()) + line);
     }
 }
 
