@@ -71,9 +71,11 @@ void frmMain::LoadTokenList() {
     lbxTokens->Click(0);
 }
 
-void frmMain::LoadLanguageList(std::u16string_view base) {
+/// Clicks list the languages of the application's own file, not of the selected base's, on purpose:
+/// what administrators have written into it decides what is offered.
+void frmMain::LoadLanguageList(std::u16string_view listedUnder) {
     lstLanguages->Fill(
-        cvlang::LoadLanguageList(program_.config, program_.CurrentApplication, base));
+        cvlang::LoadLanguageList(program_.config, program_.CurrentApplication, listedUnder));
 }
 
 void frmMain::OnApplicationClick() {
@@ -211,7 +213,8 @@ std::optional<std::size_t> frmMain::SelectedToken() const {
 }
 
 void frmMain::ClickFound(std::optional<std::size_t> index) {
-    if (index) {
+    // A click on the selected token would load its text again, over what was typed.
+    if (index && index != SelectedToken()) {
         lbxTokens->Click(*index);
     } else {
         wxBell();

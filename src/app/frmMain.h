@@ -72,7 +72,7 @@ class frmMain : public wxFrame {
     void LoadWindow();
     void FillBases();
     void LoadTokenList();
-    void LoadLanguageList(std::u16string_view base);
+    void LoadLanguageList(std::u16string_view listedUnder);
 
     void OnApplicationClick();
     void OnBaseClick();

@@ -58,7 +58,6 @@ frmSend::frmSend(wxWindow* parent, Program& program, SubmissionTarget target)
     column.AddSpacer(FromDIP(kGap));
     txtAttachments =
         AddField(*this, AddFields(*this, column), "Label4", "Attachments:", "txtAttachments");
-    txtAttachments->SetEditable(false);
     AddButtons(column);
     GetSizer()->SetSizeHints(this);
     CentreOnParent();

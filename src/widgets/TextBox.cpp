@@ -61,9 +61,16 @@ void TextBox::UndoChange() {
 }
 
 void TextBox::OnChanged() {
-    const wxString value = GetValue();
+    wxString value = GetValue();
     if (value == current_)
         return;
+    // Text can come in otherwise than by pasting: dropped, or with the middle button.
+    if (value != OnOneLine(value)) {
+        value = OnOneLine(value);
+        const long position = GetInsertionPoint();
+        ChangeValue(value);
+        SetInsertionPoint(position);
+    }
     if (earlier_.empty() || !ContinuesWord(current_, value))
         earlier_.push_back(current_);
     current_ = value;
