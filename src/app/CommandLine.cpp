@@ -1,6 +1,10 @@
 #include "app/CommandLine.h"
 
+#include <exception>
+
 #include "generation/ContentTree.h"
+#include "platform/Ansi.h"
+#include "platform/Process.h"
 
 namespace cvlang {
 
@@ -29,7 +33,12 @@ ExitStatus RunCommandLine(Program& program, std::u16string_view sCommandLine) {
         program.messages.Show({u"Invalid arguments"});
         return ExitStatus::InvalidArguments;
     }
-    ApplyTranslation(program, application, base, language);
+    try {
+        ApplyTranslation(program, application, base, language);
+    } catch (const std::exception& error) {
+        // The caller goes on whatever a run has met.
+        WriteErrorLine(AnsiToUtf16(error.what()));
+    }
     return ExitStatus::Done;
 }
 

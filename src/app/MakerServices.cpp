@@ -1,5 +1,7 @@
 #include "app/MakerServices.h"
 
+#include <limits>
+
 #include "config/TextHelpers.h"
 #include "platform/Process.h"
 
@@ -11,15 +13,24 @@ struct Server {
     std::uint16_t port;
 };
 
+/// 0 when the text is no port.
+std::uint16_t PortFrom(std::u16string_view text) {
+    unsigned port = 0;
+    for (const char16_t digit : text) {
+        if (digit < u'0' || digit > u'9' || port > std::numeric_limits<std::uint16_t>::max())
+            return 0;
+        port = port * 10 + (digit - u'0');
+    }
+    return port > std::numeric_limits<std::uint16_t>::max() ? std::uint16_t{0}
+                                                            : static_cast<std::uint16_t>(port);
+}
+
 /// The server that a variable of the environment names, otherwise the built-in one.
 Server ServerFrom(const char* variable, std::u16string_view builtIn, std::uint16_t usualPort) {
     const std::u16string named = EnvironmentText(variable);
     const std::u16string_view text = named.empty() ? builtIn : std::u16string_view(named);
-    unsigned port = 0;
-    for (const char16_t digit : SplitField(text, u":", 2))
-        port = port * 10 + (digit - u'0');
-    return {std::u16string(SplitField(text, u":", 1)),
-            port == 0 ? usualPort : static_cast<std::uint16_t>(port)};
+    const std::uint16_t port = PortFrom(SplitField(text, u":", 2));
+    return {std::u16string(SplitField(text, u":", 1)), port == 0 ? usualPort : port};
 }
 
 }  // namespace

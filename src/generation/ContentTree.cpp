@@ -69,8 +69,8 @@ std::size_t CountSteps(const fs::path& folder) {
 bool MayOverwrite(Program& program) {
     return program.messages.Show(
                {u"Web Content for this Language already exists, do you wish to overwrite it?",
-                std::u16string(kProgramTitle), MessageButtons::YesNo, MessageIcon::Question}) !=
-           MessageAnswer::No;
+                std::u16string(kProgramTitle), MessageButtons::YesNo, MessageIcon::Question}) ==
+           MessageAnswer::Yes;
 }
 
 void TraceTokenUse(Program& program, const std::vector<std::u16string>& arrTokens) {

@@ -1,5 +1,7 @@
 #include "generation/PageTranslator.h"
 
+#include <new>
+
 #include "generation/ApplicationRoots.h"
 #include "generation/PageEncoding.h"
 #include "platform/LetterCase.h"
@@ -57,12 +59,22 @@ void PageTranslator::TranslateFile(const fs::path& sSourcePath, bool bScriptAwar
 
 void PageTranslator::TranslateFile(const Folder& folder, const fs::path& name, bool bScriptAware) {
     program_.waiting->Step();
-    if (ReadFile(folder, name, source_) != FileStatus::Okay) {
-        // A log that cannot be written must not keep the other pages from being translated.
-        [[maybe_unused]] const auto ignored = program_.logs.LogTranslationEvent(
-            u"Error - could not find asp source: " + TextFromPath(folder.Path() / name));
-        return;
+    try {
+        if (ReadFile(folder, name, source_) == FileStatus::Okay) {
+            RewriteFile(folder, name, bScriptAware);
+            return;
+        }
+    } catch (const std::bad_alloc&) {
+        // A page too large for this machine is one that cannot be read.
+        source_ = {};
+        page_ = {};
     }
+    // A log that cannot be written must not keep the other pages from being translated.
+    [[maybe_unused]] const auto ignored = program_.logs.LogTranslationEvent(
+        u"Error - could not find asp source: " + TextFromPath(folder.Path() / name));
+}
+
+void PageTranslator::RewriteFile(const Folder& folder, const fs::path& name, bool bScriptAware) {
     page_ = kUtf8ByteOrderMark;
     if (!substitution_.Translate(source_.Bytes(), ScriptModeOf(name, bScriptAware), page_))
         return;

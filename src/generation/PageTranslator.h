@@ -22,6 +22,8 @@ class PageTranslator {
     PageTranslator(Program& program, std::u16string_view sLanguage, std::u16string_view sBase,
                    std::u16string_view sApplication, const std::vector<std::u16string>& arrTokens,
                    const std::vector<std::u16string>& arrValues);
+    PageTranslator(const PageTranslator&) = delete;
+    PageTranslator& operator=(const PageTranslator&) = delete;
 
     /// Reads a page, replaces its placeholders and writes it, as UTF-8 behind a byte-order mark, to
     /// the mirrored path in the language's folder, which is the page itself when it lies there
@@ -37,6 +39,7 @@ class PageTranslator {
     }
 
   private:
+    void RewriteFile(const Folder& folder, const std::filesystem::path& name, bool bScriptAware);
     std::filesystem::path DestinationOf(const Folder& source) const;
     std::string_view PageBytes() const;
     void WriteElsewhere(const std::filesystem::path& destination);
