@@ -1,6 +1,7 @@
 #include "platform/FolderListing.h"
 
 #include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
 
 #include <algorithm>
@@ -23,14 +24,18 @@ std::vector<fs::path>* ListFor(const dirent& entry, DIR* folder, FolderListing& 
         return &listing.files;
     if (entry.d_type == DT_DIR)
         return &listing.folders;
+    // A link, or a file system that tells no kinds.
     struct stat status {};
-    if (fstatat(dirfd(folder), entry.d_name, &status, 0) != 0)
+    if (fstatat(dirfd(folder), entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0)
+        return nullptr;
+    const bool isLink = S_ISLNK(status.st_mode);
+    if (isLink && fstatat(dirfd(folder), entry.d_name, &status, 0) != 0)
         return nullptr;
     if (S_ISREG(status.st_mode))
         return &listing.files;
     if (!S_ISDIR(status.st_mode))
         return nullptr;
-    return entry.d_type == DT_LNK ? &listing.linkedFolders : &listing.folders;
+    return isLink ? &listing.linkedFolders : &listing.folders;
 }
 
 bool PrecedesInDirectoryWindow(const fs::path& a, const fs::path& b) {

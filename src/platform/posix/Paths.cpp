@@ -8,7 +8,7 @@
 namespace cvlang {
 namespace {
 
-bool EntryExists(const std::filesystem::path& path) {
+bool IsOnDisk(const std::filesystem::path& path) {
     struct stat status {};
     return lstat(path.c_str(), &status) == 0;
 }
@@ -24,12 +24,12 @@ std::u16string TextFromPath(const std::filesystem::path& path) {
 }
 
 std::filesystem::path FindExisting(const std::filesystem::path& path) {
-    if (EntryExists(path))
+    if (IsOnDisk(path))
         return path;
     std::filesystem::path found;
     bool missing = false;
     for (const std::filesystem::path& part : path) {
-        if (!missing && !EntryExists(found / part)) {
+        if (!missing && !IsOnDisk(found / part)) {
             const DirectoryEntries entries(found.empty() ? std::filesystem::path(".") : found);
             const auto spelling = entries.Find(part.native());
             missing = !spelling;

@@ -1,13 +1,17 @@
 // The registry export format ("Windows Registry Editor Version 5.00"), of which HKEY_LOCAL_MACHINE
 // is looked at.
 //
-//   [HKEY_LOCAL_MACHINE\SOFTWARE\...]   a key; [-HKEY_...] takes it and what lies below it away
-//   "name"="text"                       a string; \\ and \" stand for a backslash and a quotation
-//   mark "name"=dword:0000002a               a number "name"=hex(2):61,00,\               any kind
-//   by its bytes, here 2, an expandable string in UTF-16;
-//     00,00                             a backslash at a line's end continues it
-//   "name"=-                            takes the value away
-//   ; comment
+// - [HKEY_LOCAL_MACHINE\SOFTWARE\...] begins a key; [-HKEY_...] takes it and what lies below it
+// away.
+//
+// - "name"="text" is a string; \\ and \" stand for a backslash and a quotation mark.
+//
+// - "name"=dword:0000002a is a number.
+//
+// - "name"=hex(2):61,00,00,00 is any kind by its bytes, here 2, an expandable string in UTF-16; a
+// backslash at a line's end continues it.
+//
+// - "name"=- takes the value away. A semicolon begins a comment.
 //
 // Later lines win over earlier ones, letter case does not matter in keys and names, and a line of
 // any other form is passed over.
