@@ -1,7 +1,7 @@
 // The lower bound of "copy, then rewrite in place": copies the reference folder into the language
 // folder, then reads each page file of the copy, deletes it and writes the same bytes anew.
 
-#include "yardstick.hpp"
+#include "yardstick.h"
 
 namespace {
 

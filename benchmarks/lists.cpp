@@ -89,8 +89,8 @@ class ListsApp : public wxApp {
 }  // namespace
 }  // namespace cvlang
 
-int main(int, char** argv) {
-    wxApp::SetInstance(new cvlang::ListsApp(std::atoi(argv[1])));
+int main(int argc, char** argv) {
+    wxApp::SetInstance(new cvlang::ListsApp(argc > 1 ? std::atoi(argv[1]) : 1));
     int count = 1;
     return wxEntry(count, argv);
 }

@@ -5,10 +5,8 @@ set(documentation_folder ${CMAKE_INSTALL_DATADIR}/doc/${package})
 install(TARGETS CVLangTranslator RUNTIME)
 # The windows are a module of their own, which nobody but the program loads. Not below lib/: for that CPack
 # would have ldconfig run at each installation.
-if(TARGET CVLangTranslatorWindow)
-    install(TARGETS CVLangTranslatorWindow LIBRARY DESTINATION libexec/${package})
-    set_target_properties(CVLangTranslator PROPERTIES INSTALL_RPATH "$ORIGIN:$ORIGIN/../libexec/${package}")
-endif()
+install(TARGETS CVLangTranslatorWindow LIBRARY DESTINATION libexec/${package})
+set_target_properties(CVLangTranslator PROPERTIES INSTALL_RPATH "$ORIGIN:$ORIGIN/../libexec/${package}")
 
 install(FILES linux/${package}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)

@@ -7,10 +7,8 @@ namespace cvlang {
 
 bool BaseExists(const Configuration& config, std::u16string_view ApplicationName,
                 std::u16string_view BaseName) {
-    std::u16string path = config.GetApplicationDirectory();
-    for (const std::u16string_view part : {ApplicationName, BaseName})
-        path.append(1, kSeparator).append(part);
-    return EntryExists(PathFromText(path));
+    return EntryExists(
+        PathFromText(JoinedPath({config.GetApplicationDirectory(), ApplicationName, BaseName})));
 }
 
 std::vector<std::u16string> DetectBases(const Configuration& config,

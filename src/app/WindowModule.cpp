@@ -1,6 +1,6 @@
 // Window mode from the module. Without the module the program is as without a display.
 #include "app/Window.h"
-#include "platform/posix/SharedModule.h"
+#include "platform/SharedModule.h"
 
 namespace cvlang {
 namespace {

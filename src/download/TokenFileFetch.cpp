@@ -5,6 +5,7 @@
 #include "platform/FileSystem.h"
 #include "platform/Paths.h"
 #include "translation/LanguageTable.h"
+#include "translation/MapFilePaths.h"
 
 namespace cvlang {
 namespace {
@@ -55,7 +56,7 @@ void FetchDefaultTranslation(Program& program, const DistributionServer& server,
                                MessageIcon::Exclamation});
     }
     FetchTokenFile(program, server, selection.application, selection.base,
-                   selection.application + u"-" + selection.base + u"-tokens-" + symbol + u".map");
+                   PublishedMapFile(selection.application, selection.base, symbol));
 }
 
 void FetchTokenFile(Program& program, const DistributionServer& server,
@@ -71,8 +72,7 @@ void FetchTokenFile(Program& program, const DistributionServer& server,
 bool DownloadTokenFile(Program& program, const DistributionServer& server,
                        std::u16string_view sTokenFile, std::u16string_view sServerPath,
                        bool bUnicode) {
-    std::u16string local = program.config.GetApplicationDirectory() + kSeparator;
-    local += sTokenFile;
+    const std::u16string local = JoinedPath({program.config.GetApplicationDirectory(), sTokenFile});
     const std::filesystem::path file = FindExisting(PathFromText(local));
     if (IsProtected(program.config, file))
         return true;

@@ -1,7 +1,5 @@
 #include "generation/ApplicationRoots.h"
 
-#include <initializer_list>
-
 #include "platform/LetterCase.h"
 #include "platform/Paths.h"
 #include "translation/MapFilePaths.h"
@@ -23,16 +21,6 @@ constexpr NetBase kNetBases[] = {
     {u"KESTO.NET", u"Kesto", u"Kesto"},
 };
 
-std::u16string JoinPath(std::initializer_list<std::u16string_view> parts) {
-    std::u16string path;
-    for (const std::u16string_view part : parts) {
-        if (part.data() != parts.begin()->data())
-            path += kSeparator;
-        path += part;
-    }
-    return path;
-}
-
 }  // namespace
 
 std::u16string GetLanguageRoot(const Configuration& config, std::u16string_view application,
@@ -40,7 +28,7 @@ std::u16string GetLanguageRoot(const Configuration& config, std::u16string_view 
     const bool webMail = ToUpper(application) == u"WEBMAIL";
     const std::u16string sourceRoot = config.GetSourceRoot();
     if (!sourceRoot.empty())
-        return JoinPath({sourceRoot, webMail ? u"WebMail" : u"WebAdmin", u"base", base, u"lang"});
+        return JoinedPath({sourceRoot, webMail ? u"WebMail" : u"WebAdmin", u"base", base, u"lang"});
 
     // As stored, without the usual place of installation: pages are never generated where nothing
     // is installed.
@@ -49,8 +37,8 @@ std::u16string GetLanguageRoot(const Configuration& config, std::u16string_view 
     for (const NetBase& net : kNetBases) {
         if (net.upperName != upperBase)
             continue;
-        return webMail ? JoinPath({directory, u"NETWebMail", net.webMailFolder, u"lang"})
-                       : JoinPath({directory, u"NETWebAdmin", net.webAdminFolder, u"lang"});
+        return webMail ? JoinedPath({directory, u"NETWebMail", net.webMailFolder, u"lang"})
+                       : JoinedPath({directory, u"NETWebAdmin", net.webAdminFolder, u"lang"});
     }
     return {};
 }

@@ -46,8 +46,8 @@ ContentFolders FoldersOf(const Configuration& config, std::u16string_view applic
     const std::u16string root = GetLanguageRoot(config, application, base);
     const std::u16string abbreviation =
         GetLanguageAbbreviation(config, application, language, base);
-    const fs::path reference = PathFromText(root + kSeparator + GetReferenceLanguageCode(config));
-    const fs::path folder = PathFromText(root + kSeparator + abbreviation);
+    const fs::path reference = PathFromText(JoinedPath({root, GetReferenceLanguageCode(config)}));
+    const fs::path folder = PathFromText(JoinedPath({root, abbreviation}));
     // Without a root the folders are those at the root of the drive, by exactly these names: Linux
     // has a /sys there.
     if (root.empty())

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -11,6 +12,9 @@ namespace cvlang {
 /// The separator of the system's paths: "\" on Windows, "/" on Linux.
 inline constexpr auto kSeparator =
     static_cast<char16_t>(std::filesystem::path::preferred_separator);
+
+/// The parts with separators between them; an empty part leaves its two separators side by side.
+std::u16string JoinedPath(std::initializer_list<std::u16string_view> parts);
 
 /// The path that a UTF-16 text names (on Linux as UTF-8, independent of the locale).
 std::filesystem::path PathFromText(std::u16string_view text);

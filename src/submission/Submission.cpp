@@ -2,6 +2,7 @@
 
 #include "platform/FolderListing.h"
 #include "platform/Paths.h"
+#include "translation/MapFilePaths.h"
 
 namespace cvlang {
 namespace {
@@ -51,7 +52,7 @@ std::u16string SubmissionBody(std::u16string_view application, std::u16string_vi
 std::vector<std::filesystem::path> MapFilesOfBase(const std::filesystem::path& sMapFilePath,
                                                   std::u16string_view sApp,
                                                   std::u16string_view sBase) {
-    const std::u16string start = Joined({sApp, u"-", sBase, u"-tokens"});
+    const std::u16string start = MapFilePrefix(sApp, sBase) + u"tokens";
     const std::filesystem::path folder = sMapFilePath.parent_path();
     std::vector<std::filesystem::path> files;
     for (const std::filesystem::path& file : ListFolder(folder).files) {

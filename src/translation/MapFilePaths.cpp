@@ -8,18 +8,11 @@ namespace cvlang {
 namespace {
 
 std::filesystem::path InDirectory(std::u16string_view directory, std::u16string_view name) {
-    std::u16string path(directory);
-    path += kSeparator;
-    path += name;
-    return PathFromText(path);
+    return PathFromText(JoinedPath({directory, name}));
 }
 
 std::filesystem::path BaseFile(const MapFileBase& base, const std::u16string& ending) {
-    std::u16string name(base.application);
-    name += u'-';
-    name += base.base;
-    name += u'-';
-    return InDirectory(base.directory, name + ending);
+    return InDirectory(base.directory, MapFilePrefix(base.application, base.base) + ending);
 }
 
 /// The old names have no extension of their own: the abbreviation stands in its place.
@@ -29,6 +22,16 @@ std::u16string LanguageEnding(std::u16string_view abbreviation, std::int32_t aut
 }
 
 }  // namespace
+
+std::u16string MapFilePrefix(std::u16string_view application, std::u16string_view base) {
+    return std::u16string(application).append(u"-").append(base).append(u"-");
+}
+
+std::u16string PublishedMapFile(std::u16string_view application, std::u16string_view base,
+                                std::u16string_view abbreviation) {
+    return MapFilePrefix(application, base) + u"tokens" +
+           LanguageEnding(abbreviation, kNewNamesVersion);
+}
 
 std::filesystem::path ReferenceMapFile(const MapFileBase& base) {
     return BaseFile(base, u"tokens.map");

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 namespace cvlang {
@@ -17,6 +18,14 @@ struct MapFileBase {
 
 /// From this authoring version on files and folders carry their new names.
 inline constexpr std::int32_t kNewNamesVersion = 2;
+
+/// What the names of a base's files begin with: "App-Base-"
+std::u16string MapFilePrefix(std::u16string_view application, std::u16string_view base);
+
+/// The name under which a language's map file is published, always a new one:
+/// App-Base-tokens-fr.map
+std::u16string PublishedMapFile(std::u16string_view application, std::u16string_view base,
+                                std::u16string_view abbreviation);
 
 /// The English map file: App-Base-tokens.map
 std::filesystem::path ReferenceMapFile(const MapFileBase& base);

@@ -8,6 +8,7 @@
 #include "platform/LetterCase.h"
 #include "platform/Paths.h"
 #include "translation/Lines.h"
+#include "translation/MapFilePaths.h"
 #include "translation/TokenMapFile.h"
 #include "translation/Utf16File.h"
 
@@ -56,8 +57,7 @@ void RemoveLines(const fs::path& mapFile, std::u16string_view token, TokenOfLine
 /// "WebMail-default.net-tokens-", of a reference map file's name.
 std::u16string LanguageFilePrefix(const fs::path& referenceMapFile) {
     const std::u16string name = TextFromPath(referenceMapFile.filename());
-    std::u16string prefix(SplitField(name, u"-", 1));
-    return prefix.append(u"-").append(SplitField(name, u"-", 2)).append(u"-tokens-");
+    return MapFilePrefix(SplitField(name, u"-", 1), SplitField(name, u"-", 2)) + u"tokens-";
 }
 
 }  // namespace

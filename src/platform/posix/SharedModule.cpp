@@ -1,4 +1,4 @@
-#include "platform/posix/SharedModule.h"
+#include "platform/SharedModule.h"
 
 #include <dlfcn.h>
 
