@@ -16,7 +16,6 @@
 #include "translation/TokenList.h"
 #include "translation/TokenMapFile.h"
 #include "translation/TokenUpdate.h"
-#include "widgets/ErrorGuard.h"
 #include "widgets/SelectionList.h"
 #include "widgets/Text.h"
 #include "widgets/TextBox.h"

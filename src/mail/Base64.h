@@ -23,7 +23,7 @@ class Base64 {
     /// The text of a whole file; empty when it cannot be read.
     static std::string EncodeFile(const std::filesystem::path& file);
 
-    /// Characters outside the alphabet count as zero bits.
+    /// CR LF and "=" are skipped; other characters outside the alphabet count as zero bits.
     static std::string DecodeToByteArr(std::string_view text);
     static std::string DecodeToString(std::string_view text);
     /// Raises an error when the file exists already. False when it cannot be written.

@@ -9,9 +9,11 @@
 
 namespace cvlang {
 
+/// English names of three letters: "Mon", "Jan".
 std::string_view GetDayName(const LocalTime& date);
 std::string_view GetMonthName(const LocalTime& date);
 
+/// "Mon, 2 Jan 2006 15:04:05 +0100".
 std::string FormatMailDate(const LocalTime& time, const TimeZoneInformation& zone);
 
 }  // namespace cvlang

@@ -1,5 +1,7 @@
 #include "mail/MessageHeaders.h"
 
+#include <utility>
+
 #include "mail/AddressList.h"
 #include "mail/IgnoringCase.h"
 

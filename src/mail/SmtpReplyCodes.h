@@ -3,7 +3,6 @@
 // matters.
 #pragma once
 
-#include <string>
 #include <string_view>
 
 namespace cvlang::replies {

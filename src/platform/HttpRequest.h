@@ -20,8 +20,8 @@ struct HttpRequest {
 };
 
 /// Sends the request and returns what arrived of the response's body, whatever the status said;
-/// empty when the server cannot be reached. The system's proxy settings hold, nothing is taken from
-/// a cache, and no time-out is set.
+/// empty when the server cannot be reached. Nothing is taken from a cache, and no time-out is set.
+/// Windows takes its own proxy settings, Linux uses no proxy.
 std::string SendRequest(const HttpRequest& request);
 
 }  // namespace cvlang

@@ -1,7 +1,5 @@
 #include "platform/Utf8.h"
 
-#include <cstdint>
-
 namespace cvlang {
 namespace {
 

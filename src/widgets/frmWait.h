@@ -4,6 +4,7 @@
 #include <wx/dialog.h>
 #include <wx/stopwatch.h>
 
+#include <functional>
 #include <memory>
 
 #include "config/Waiting.h"
