@@ -1,7 +1,6 @@
 #include "app/TokenRemoval.h"
 
 #include "platform/FileSystem.h"
-#include "platform/Paths.h"
 #include "translation/TokenLines.h"
 
 namespace cvlang {
@@ -11,7 +10,7 @@ void RemoveTokenAsAsked(UserMessages& messages, const std::filesystem::path& ref
     const MessageAnswer answer =
         messages.Show({u"Also remove this token from all translated language files?",
                        u"Confirm Removal", MessageButtons::YesNoCancel});
-    if (answer == MessageAnswer::Cancel || !EntryExists(FindExisting(referenceMapFile)))
+    if (answer == MessageAnswer::Cancel || !EntryExists(referenceMapFile))
         return;
     RemoveFromReferenceFile(referenceMapFile, token);
     if (answer == MessageAnswer::Yes)

@@ -1,7 +1,7 @@
 // Files and folders, as far as Windows and Linux differ about them: attributes, letter case, links.
 //
-// What reads (ReadFile, EntryExists, ListFolder) finds an entry whose name differs only in letter
-// case. What writes takes the path exactly; pass it through FindExisting first where an entry may
+// What reads (ReadFile, EntryExists) finds an entry whose name differs only in letter
+// case. What writes or lists takes the path exactly; pass it through FindExisting first where an entry may
 // exist under another spelling.
 #pragma once
 

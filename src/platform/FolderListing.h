@@ -13,7 +13,7 @@ struct FolderListing {
     std::vector<std::filesystem::path> linkedFolders;
 };
 
-/// Empty lists when the folder cannot be read.
+/// Of the folder by exactly this name. Empty lists when it cannot be read.
 FolderListing ListFolder(const std::filesystem::path& folder);
 
 }  // namespace cvlang

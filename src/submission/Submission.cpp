@@ -53,7 +53,7 @@ std::vector<std::filesystem::path> MapFilesOfBase(const std::filesystem::path& s
                                                   std::u16string_view sApp,
                                                   std::u16string_view sBase) {
     const std::u16string start = MapFilePrefix(sApp, sBase) + u"tokens";
-    const std::filesystem::path folder = sMapFilePath.parent_path();
+    const std::filesystem::path folder = FindExisting(sMapFilePath.parent_path());
     std::vector<std::filesystem::path> files;
     for (const std::filesystem::path& file : ListFolder(folder).files) {
         const std::u16string name = TextFromPath(file);

@@ -85,7 +85,7 @@ void RemoveFromReferenceFile(const fs::path& referenceMapFile, std::u16string_vi
 
 void RemoveFromLanguageFiles(const fs::path& referenceMapFile, std::u16string_view token) {
     const std::u16string prefix = ToUpper(LanguageFilePrefix(referenceMapFile));
-    const fs::path folder = referenceMapFile.parent_path();
+    const fs::path folder = FindExisting(referenceMapFile.parent_path());
     for (const fs::path& name : ListFolder(folder).files) {
         const std::u16string upper = ToUpper(TextFromPath(name));
         if (upper.starts_with(prefix) && upper.ends_with(u".MAP"))

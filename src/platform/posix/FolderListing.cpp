@@ -8,7 +8,6 @@
 #include <memory>
 #include <string_view>
 
-#include "platform/Paths.h"
 
 namespace cvlang {
 namespace {
@@ -54,7 +53,7 @@ bool PrecedesInDirectoryWindow(const fs::path& a, const fs::path& b) {
 
 FolderListing ListFolder(const fs::path& folder) {
     FolderListing listing;
-    const std::unique_ptr<DIR, int (*)(DIR*)> open(opendir(FindExisting(folder).c_str()), closedir);
+    const std::unique_ptr<DIR, int (*)(DIR*)> open(opendir(folder.c_str()), closedir);
     if (open == nullptr)
         return listing;
     while (const dirent* entry = readdir(open.get())) {
