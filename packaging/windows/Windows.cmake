@@ -10,7 +10,7 @@ target_link_libraries(CVLangTranslator PRIVATE cvlang_resources)
 set_target_properties(CVLangTranslator PROPERTIES WIN32_EXECUTABLE ON)
 
 install(TARGETS CVLangTranslator RUNTIME DESTINATION .)
-set(documentation_folder .)
+set(documentation_folder docs)
 
 set(CPACK_GENERATOR NSIS ZIP)
 set(CPACK_PACKAGE_FILE_NAME ${PROJECT_NAME}-${PROJECT_VERSION}-windows-x64)
