@@ -12,7 +12,8 @@ namespace cvlang {
 inline constexpr auto kSeparator =
     static_cast<char16_t>(std::filesystem::path::preferred_separator);
 
-/// The path that a UTF-16 text names (on Linux as UTF-8, independent of the locale).
+/// The path that a UTF-16 text names (on Linux as UTF-8, independent of the locale). A NUL, which
+/// to the system would end the path at some folder above, becomes U+FFFD.
 std::filesystem::path PathFromText(std::u16string_view text);
 
 /// The UTF-16 text of a path.
