@@ -39,12 +39,13 @@ class WindowsRegistry : public Registry {
         const std::string value = Utf16ToAnsi(name);
         DWORD type = 0;
         DWORD size = 0;
-        if (!opened.Query(value, type, nullptr, size) || size == 0)
+        if (!opened.Query(value, type, nullptr, size))
             return {};
         std::string bytes(size, '\0');
-        if (!opened.Query(value, type, bytes.data(), size))
+        // The second answer counts: the first one may be larger than what there is to read.
+        if (!opened.Query(value, type, bytes.data(), size) || size == 0)
             return {};
-        return AnsiToUtf16({bytes.data(), bytes.size() - 1});  // without the NUL at its end
+        return AnsiToUtf16({bytes.data(), size - 1});  // without the NUL at its end
     }
 
     std::int32_t ReadDword(std::u16string_view key, std::u16string_view name) const override {
