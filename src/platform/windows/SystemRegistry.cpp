@@ -9,8 +9,9 @@ namespace {
 class RegistryKey {
   public:
     explicit RegistryKey(std::u16string_view key) {
-        if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, Utf16ToAnsi(key).c_str(), 0, KEY_READ, &handle_) !=
-            ERROR_SUCCESS)
+        // A 32-bit mail server's settings are where only 32-bit programs find them unasked.
+        const std::string name = Utf16ToAnsi(key);
+        if (!Open(name, KEY_READ) && !Open(name, KEY_READ | KEY_WOW64_32KEY))
             handle_ = nullptr;
     }
     RegistryKey(const RegistryKey&) = delete;
@@ -29,6 +30,11 @@ class RegistryKey {
     }
 
   private:
+    bool Open(const std::string& name, REGSAM access) {
+        return RegOpenKeyExA(HKEY_LOCAL_MACHINE, name.c_str(), 0, access, &handle_) ==
+               ERROR_SUCCESS;
+    }
+
     HKEY handle_ = nullptr;
 };
 
