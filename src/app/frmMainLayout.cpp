@@ -1,6 +1,7 @@
 // What the main window looks like: its menu, controls and keys, and what each of them calls.
 #include <wx/accel.h>
 #include <wx/button.h>
+#include <wx/display.h>
 #include <wx/listctrl.h>
 #include <wx/menu.h>
 #include <wx/panel.h>
@@ -87,7 +88,10 @@ void frmMain::CreateControls() {
     // unwrapped.
     SetMinClientSize(frame->CalcMin());
     panel_->Bind(wxEVT_SIZE, &frmMain::OnResized, this);
-    SetSize(FromDIP(wxSize(kStartWidth, kStartHeight)));
+    wxSize start = FromDIP(wxSize(kStartWidth, kStartHeight));
+    start.DecTo(wxDisplay(this).GetClientArea().GetSize());
+    SetSize(start);
+    CentreOnScreen();
 }
 
 void frmMain::CreateDescription(wxSizer& column) {
