@@ -28,8 +28,8 @@ constexpr const char* kDescription =
 
 // At the usual resolution; the smallest window shows this much of everything.
 constexpr int kListWidth = 190;
-constexpr int kListHeight = 100;
-constexpr int kTokensHeight = 110;
+constexpr int kListHeight = 80;
+constexpr int kTokensHeight = 80;
 constexpr int kDetailsHeight = 56;
 constexpr int kStartWidth = 800;
 constexpr int kStartHeight = 690;
