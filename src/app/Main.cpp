@@ -9,7 +9,8 @@ namespace {
 class CommandLineMessages : public StandardErrorMessages {
   public:
     MessageAnswer Show(const UserMessage& message) override {
-        return ShowInBox(message) ? MessageAnswer::Ok : StandardErrorMessages::Show(message);
+        return WindowsCanBeSeen() && ShowInBox(message) ? MessageAnswer::Ok
+                                                        : StandardErrorMessages::Show(message);
     }
 };
 
@@ -22,7 +23,8 @@ ExitStatus Run(std::u16string_view commandLine) {
         Program program{config, logs, messages};
         return RunCommandLine(program, commandLine);
     }
-    const ExitStatus status = ShowMainWindow(config, logs);
+    const ExitStatus status =
+        WindowsCanBeSeen() ? ShowMainWindow(config, logs) : ExitStatus::NoWindow;
     if (status == ExitStatus::NoWindow) {
         WriteErrorLine(
             u"CVLangTranslator cannot open its window here. Without one it generates a language's "

@@ -1,6 +1,7 @@
 // What the main window looks like: its menu, controls and keys, and what each of them calls.
 #include <wx/accel.h>
 #include <wx/button.h>
+#include <wx/display.h>
 #include <wx/listctrl.h>
 #include <wx/menu.h>
 #include <wx/panel.h>
@@ -27,8 +28,8 @@ constexpr const char* kDescription =
 
 // At the usual resolution; the smallest window shows this much of everything.
 constexpr int kListWidth = 190;
-constexpr int kListHeight = 100;
-constexpr int kTokensHeight = 110;
+constexpr int kListHeight = 80;
+constexpr int kTokensHeight = 80;
 constexpr int kDetailsHeight = 56;
 constexpr int kStartWidth = 800;
 constexpr int kStartHeight = 690;
@@ -87,7 +88,10 @@ void frmMain::CreateControls() {
     // unwrapped.
     SetMinClientSize(frame->CalcMin());
     panel_->Bind(wxEVT_SIZE, &frmMain::OnResized, this);
-    SetSize(FromDIP(wxSize(kStartWidth, kStartHeight)));
+    wxSize start = FromDIP(wxSize(kStartWidth, kStartHeight));
+    start.DecTo(wxDisplay(this).GetClientArea().GetSize());
+    SetSize(start);
+    CentreOnScreen();
 }
 
 void frmMain::CreateDescription(wxSizer& column) {

@@ -16,7 +16,8 @@ inline constexpr auto kSeparator =
 /// The parts with separators between them; an empty part leaves its two separators side by side.
 std::u16string JoinedPath(std::initializer_list<std::u16string_view> parts);
 
-/// The path that a UTF-16 text names (on Linux as UTF-8, independent of the locale).
+/// The path that a UTF-16 text names (on Linux as UTF-8, independent of the locale). A NUL, which
+/// to the system would end the path at some folder above, becomes U+FFFD.
 std::filesystem::path PathFromText(std::u16string_view text);
 
 /// The UTF-16 text of a path.

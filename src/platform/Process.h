@@ -14,6 +14,10 @@ std::u16string CommandLineText(int argc, const char* const* argv);
 /// A variable of the environment; empty when it is not set.
 std::u16string EnvironmentText(const char* name);
 
+/// False where nobody can see a window though one can be made, as in a Windows service: a message
+/// box would wait there for ever.
+bool WindowsCanBeSeen();
+
 /// Writes one line to standard error.
 void WriteErrorLine(std::u16string_view text);
 

@@ -88,7 +88,7 @@ int WindowScript::WorkIn(const Step& step, wxDialog& dialog) {
     EXPECT_EQ(dialog.GetName(), step.title);
     dialog.CallAfter([step, &dialog] {
         step.actions(dialog);
-        if (dialog.IsModal()) {
+        if (dialog.IsShown()) {
             ADD_FAILURE() << dialog.GetTitle() << " is still open";
             dialog.EndModal(wxID_CANCEL);
         }

@@ -2,6 +2,8 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
+
 #include "platform/Utf8.h"
 #include "platform/posix/DirectoryEntries.h"
 
@@ -16,7 +18,9 @@ bool IsOnDisk(const std::filesystem::path& path) {
 }  // namespace
 
 std::filesystem::path PathFromText(std::u16string_view text) {
-    return Utf16ToUtf8(text);
+    std::u16string path(text);
+    std::replace(path.begin(), path.end(), u'\0', u'\uFFFD');
+    return Utf16ToUtf8(path);
 }
 
 std::u16string TextFromPath(const std::filesystem::path& path) {

@@ -25,6 +25,10 @@ std::u16string EnvironmentText(const char* name) {
     return text == nullptr ? std::u16string() : Utf8ToUtf16(text);
 }
 
+bool WindowsCanBeSeen() {
+    return true;
+}
+
 void WriteErrorLine(std::u16string_view text) {
     std::fprintf(stderr, "%s\n", Utf16ToUtf8(text).c_str());
 }

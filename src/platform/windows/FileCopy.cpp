@@ -13,8 +13,10 @@ bool CopyOneFile(const Folder& from, const fs::path& name, const Folder& to,
     const std::wstring original = LongPath(from.Path() / name);
     const std::wstring copy = LongPath(to.Path() / target.name);
     if (target.exists) {
+        // Windows copies over neither read-only nor hidden files.
+        constexpr DWORD kRefused = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN;
         const DWORD existing = GetFileAttributesW(copy.c_str());
-        if (existing != INVALID_FILE_ATTRIBUTES && (existing & FILE_ATTRIBUTE_READONLY) != 0)
+        if (existing != INVALID_FILE_ATTRIBUTES && (existing & kRefused) != 0)
             SetFileAttributesW(copy.c_str(), FILE_ATTRIBUTE_NORMAL);
     }
     if (!CopyFileW(original.c_str(), copy.c_str(), FALSE))

@@ -2,12 +2,16 @@
 
 #include <windows.h>
 
+#include <algorithm>
+
 #include "platform/windows/LongPath.h"
 
 namespace cvlang {
 
 std::filesystem::path PathFromText(std::u16string_view text) {
-    return std::wstring(text.begin(), text.end());
+    std::wstring path(text.begin(), text.end());
+    std::replace(path.begin(), path.end(), L'\0', L'\uFFFD');
+    return path;
 }
 
 std::u16string TextFromPath(const std::filesystem::path& path) {
@@ -31,8 +35,10 @@ std::wstring LongPath(const std::filesystem::path& path) {
     const std::wstring& text = path.native();
     if (text.size() < kShort || text.rfind(LR"(\\?\)", 0) == 0)
         return text;
-    std::error_code ignored;
-    const std::wstring full = std::filesystem::absolute(path, ignored).lexically_normal().native();
+    // Not lexically_normal(), which takes one of the two separators in front of a server's name.
+    std::wstring full(32768, L'\0');
+    full.resize(
+        GetFullPathNameW(text.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
     if (full.rfind(LR"(\\)", 0) == 0)
         return LR"(\\?\UNC)" + full.substr(1);
     return LR"(\\?\)" + full;

@@ -10,13 +10,14 @@ namespace cvlang {
 
 std::u16string CommandLineText(int, const char* const*) {
     const std::wstring_view line = GetCommandLineW();
-    const bool quoted = !line.empty() && line.front() == L'"';
-    std::size_t end = line.find(quoted ? L'"' : L' ', 1);
-    if (quoted && end != std::wstring_view::npos)
-        ++end;
+    const bool quoted = line.starts_with(L'"');
+    // A line that begins with a blank has an empty name: some callers give the file separately.
+    const std::size_t end = quoted ? line.find(L'"', 1) : line.find_first_of(L" \t");
+    if (end == std::wstring_view::npos)
+        return {};
     // The blanks that part the program's name from its arguments belong to neither.
-    const std::size_t start = line.find_first_not_of(L" \t", end);
-    if (end == std::wstring_view::npos || start == std::wstring_view::npos)
+    const std::size_t start = line.find_first_not_of(L" \t", quoted ? end + 1 : end);
+    if (start == std::wstring_view::npos)
         return {};
     const std::wstring_view arguments = line.substr(start);
     return {arguments.begin(), arguments.end()};
@@ -25,6 +26,13 @@ std::u16string CommandLineText(int, const char* const*) {
 std::u16string EnvironmentText(const char* name) {
     const char* const text = std::getenv(name);
     return text == nullptr ? std::u16string() : AnsiToUtf16(text);
+}
+
+bool WindowsCanBeSeen() {
+    USEROBJECTFLAGS station{};
+    return !GetUserObjectInformationW(GetProcessWindowStation(), UOI_FLAGS, &station,
+                                      sizeof station, nullptr) ||
+           (station.dwFlags & WSF_VISIBLE) != 0;
 }
 
 namespace {

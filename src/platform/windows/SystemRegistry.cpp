@@ -9,8 +9,9 @@ namespace {
 class RegistryKey {
   public:
     explicit RegistryKey(std::u16string_view key) {
-        if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, Utf16ToAnsi(key).c_str(), 0, KEY_READ, &handle_) !=
-            ERROR_SUCCESS)
+        // A 32-bit mail server's settings are where only 32-bit programs find them unasked.
+        const std::string name = Utf16ToAnsi(key);
+        if (!Open(name, KEY_READ) && !Open(name, KEY_READ | KEY_WOW64_32KEY))
             handle_ = nullptr;
     }
     RegistryKey(const RegistryKey&) = delete;
@@ -29,6 +30,11 @@ class RegistryKey {
     }
 
   private:
+    bool Open(const std::string& name, REGSAM access) {
+        return RegOpenKeyExA(HKEY_LOCAL_MACHINE, name.c_str(), 0, access, &handle_) ==
+               ERROR_SUCCESS;
+    }
+
     HKEY handle_ = nullptr;
 };
 
@@ -39,12 +45,13 @@ class WindowsRegistry : public Registry {
         const std::string value = Utf16ToAnsi(name);
         DWORD type = 0;
         DWORD size = 0;
-        if (!opened.Query(value, type, nullptr, size) || size == 0)
+        if (!opened.Query(value, type, nullptr, size))
             return {};
         std::string bytes(size, '\0');
-        if (!opened.Query(value, type, bytes.data(), size))
+        // The second answer counts: the first one may be larger than what there is to read.
+        if (!opened.Query(value, type, bytes.data(), size) || size == 0)
             return {};
-        return AnsiToUtf16({bytes.data(), bytes.size() - 1});  // without the NUL at its end
+        return AnsiToUtf16({bytes.data(), size - 1});  // without the NUL at its end
     }
 
     std::int32_t ReadDword(std::u16string_view key, std::u16string_view name) const override {
