@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/FileCopy.h"
+#include "platform/FolderCopy.h"
 #include "platform/FolderListing.h"
 #include "support/Files.h"
 
@@ -72,6 +73,23 @@ TEST(FileSystem, LargeFilesAreCopiedWhole) {
         EXPECT_TRUE(CopyOneFile(place, "large", place, {"copy", true}, CopiedAttributes::Kept));
         EXPECT_EQ(FileBytes(folder / "copy"), bytes);
     }
+}
+
+TEST(FileSystem, AFolderCopiedOntoItselfChangesNoByteAndIntoItselfEnds) {
+    const TemporaryFolder folder;
+    const fs::path en = folder / "EN";
+    PutFile(en / "a.asp", "a");
+    PutFile(en / "in" / "b.asp", "b");
+    SetReadOnly(en / "a.asp", true);
+    for (const fs::path& to : {en, en / "fr"}) {
+        CreateFolder(to);
+        CopyFilesOf(en, to, CopiedAttributes::Archive, [] {});
+        CopyFoldersOf(en, to, [] {});
+        EXPECT_EQ(FileBytes(to / "a.asp"), "a");
+        EXPECT_EQ(FileBytes(to / "in" / "b.asp"), "b");
+        EXPECT_FALSE(IsReadOnly(to / "a.asp"));
+    }
+    EXPECT_FALSE(fs::exists(en / "fr" / "fr" / "fr"));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// A server on this computer that serves one client.
+// Servers on this computer that serve one client.
 #pragma once
 
 #include <functional>
@@ -49,6 +49,19 @@ class LoopbackPeer {
     const LoopbackListener listener_;
     std::string received_;
     std::thread thread_;
+};
+
+/// A web server: the connection ends with the answer, as a server's that is asked in HTTP 1.0.
+struct WebPeer : LoopbackPeer {
+    /// The answer is given to a request with this body.
+    explicit WebPeer(const std::string& answer, const std::string& body = "")
+        : LoopbackPeer([answer, body](LoopbackPeer& peer) {
+              peer.ReceiveUntil("\r\n\r\n" + body);
+              for (std::string_view rest = answer; !rest.empty();) {
+                  const std::ptrdiff_t sent = SendBytes(peer.client, rest);
+                  rest.remove_prefix(sent < 0 ? rest.size() : static_cast<std::size_t>(sent));
+              }
+          }) {}
 };
 
 }  // namespace cvlang

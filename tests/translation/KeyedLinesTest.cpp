@@ -3,16 +3,18 @@
 #include <gtest/gtest.h>
 
 #include "support/FakeProgram.h"
-#include "translation/TokenUpdate.h"
 
 namespace cvlang {
 namespace {
 
 namespace fs = std::filesystem;
 
-void Rewrite(const FakeProgram& fake, const char* file = "t.map",
-             const char* temporary = "_t.map") {
-    RewriteKeyedLine(fake.folder / file, fake.folder / temporary, u"k", u"new", fake.logs);
+const std::string kOld = Utf16Bytes(u"k\told\r\n");
+const std::string kNew = Utf16Bytes(u"k\tnew\r\n");
+const std::string kNoFile = "(no file)";
+
+void Rewrite(const FakeProgram& fake, const fs::path& folder = ".") {
+    RewriteKeyedLine(folder / "t.map", folder / "_t.map", u"k", u"new", fake.logs);
 }
 
 TEST(KeyedLines, EveryLineOfTheKeyGetsTheValueAndAllOthersStay) {
@@ -28,38 +30,32 @@ TEST(KeyedLines, EveryLineOfTheKeyGetsTheValueAndAllOthersStay) {
         PutFile("_t.map", "left over");
         Rewrite(fake);
         EXPECT_EQ(FileBytes("t.map"), Utf16Bytes(after));
-        EXPECT_FALSE(fs::exists("_t.map"));
+        EXPECT_EQ(FileBytes("_t.map"), kNoFile);
     }
 }
 
-TEST(KeyedLines, AFileIsCreatedOrLostOrTheFailureIsTold) {
+TEST(KeyedLines, EveryFailureLeavesItsState) {
     const FakeProgram fake;
     PutFile("_t.map", "left over");
     Rewrite(fake);  // a missing file is created without the temporary one
-    EXPECT_EQ(FileBytes("t.map"), Utf16Bytes(u"k\tnew\r\n"));
+    EXPECT_EQ(FileBytes("t.map"), kNew);
     EXPECT_EQ(FileBytes("_t.map"), "left over");
-    EXPECT_EQ(fake.ErrorLog(), "(no file)");
-    Rewrite(fake, "none/t.map", "none/_t.map");  // one that cannot be opened is told
-    EXPECT_NE(fake.ErrorLog().find("\tUnable to update token\r\n"), std::string::npos);
+
+    PutFile("t.map", kOld);
+    SetReadOnly("t.map", true);
+    Rewrite(fake);  // a file that cannot be deleted stays beside its new version
+    EXPECT_EQ(FileBytes("t.map"), kOld);
+    EXPECT_EQ(FileBytes("_t.map"), kNew);
+    SetReadOnly("t.map", false);
+
     fs::remove("_t.map");
     fs::create_directory("_t.map");
     Rewrite(fake);  // a temporary file that cannot be created costs the file
-    EXPECT_FALSE(fs::exists("t.map"));
-}
+    EXPECT_EQ(FileBytes("t.map"), kNoFile);
 
-TEST(TokenUpdate, SavesUnderTheTokenOfAListEntryInTheSelectedApplicationsFile) {
-    FakeProgram fake;
-    fake.program.CurrentApplication = u"WebAdmin";
-    UpdateToken(fake.program, u"default", u"French", u"[CV_TXT-HELLO]: Hello", u"Bonjour \u3042");
-    EXPECT_EQ(FileBytes("WebAdmin-default-tokens-fr.map"),
-              Utf16Bytes(u"[CV_TXT-HELLO]\tBonjour \u3042\r\n"));
-    fake.registry.numbers[u"Authoring Version"] = 1;
-    UpdateToken(fake.program, u"default", u"French", u"[cv_TXT-HELLO]: x", u"old names");
-    EXPECT_EQ(FileBytes("WebAdmin-default-tokens.fr"),
-              Utf16Bytes(u"[cv_TXT-HELLO]: x\told names\r\n"));
-    for (int times = 0; times < 2; ++times)
-        UpdateLanguageTable(fake.program, u"WebMail", u"French", u"fr");
-    EXPECT_EQ(FileBytes("LANGUAGES.TAB"), Utf16Bytes(u"fr\tFrench\r\n"));
+    EXPECT_EQ(fake.ErrorLog(), kNoFile);
+    Rewrite(fake, "none");  // only a file that cannot be opened is told
+    EXPECT_TRUE(fake.ErrorLog().ends_with("\tUnable to update token\r\n"));
 }
 
 }  // namespace

@@ -2,54 +2,50 @@
 
 #include <gtest/gtest.h>
 
-#include "config/TextHelpers.h"
 #include "support/FakeProgram.h"
-#include "translation/Lines.h"
 
 namespace cvlang {
 namespace {
 
-constexpr char kDefaultList[] =
-    "Chinese\tzh\r\nDanish\tdk\r\nEnglish\ten\r\nFrench\tfr\r\nGerman\tde\r\nItalian\tit\r\n"
-    "Japanese\tja\r\nKorean\tko\r\nPolish\tpl\r\nPortuguese\tpt\r\nBrazilian Portuguese\tpt-BR\r\n"
-    "Spanish\tes\r\nSwedish\tsw\r\n";
+constexpr char kList[] = "WebMail-default-lang.txt";
 
-TEST(LanguageTable, TheBuiltInAbbreviationsServeWithoutAListFile) {
-    const FakeProgram fake;
-    constexpr std::u16string_view kCases =
-        u"Chinese\tzh\nENGLISH\ten\nfrench\tfr\nGerman\tde\nItalian\tit\nJapanese\tja\nKorean\tko\n"
-        u"Portuguese\tpt\nportugese\tpt\nBrazilian Portuguese\tpt-BR\nPolish\tpl\nDanish\tdk\n"
-        u"Brazilian PORTUGESE\tpt-BR\nSpanish\tes\nTurkish\ttr\nDutch\tnl\nSwedish\t\nKlingon\t\n"
-        u"\t\nFrench \t\n";
-    Lines<char16_t> cases(kCases);
-    for (std::u16string_view line; cases.Next(line);) {
-        const std::u16string_view name = SplitField(line, kTab, 1);
-        EXPECT_EQ(GetLanguageAbbreviation(fake.config, u"WebMail", name, u"default"),
-                  SplitField(line, kTab, 2));
-    }
+std::u16string Abbreviation(const FakeProgram& fake, std::u16string_view language) {
+    return GetLanguageAbbreviation(fake.config, u"WebMail", language, u"default");
 }
 
-TEST(LanguageTable, AListFileIsTheOnlySourceOfItsBasesAbbreviations) {
-    const FakeProgram fake;
-    PutFile(fake.folder / "WebMail-default-lang.txt",
-            "\xC9t\xE9\tfr-CA\r\nFrench\tfr\nFRENCH\tother\rNo abbreviation");
-    const std::pair<std::u16string, std::u16string> cases[] = {{u"french", u"fr"},
-                                                               {u"\u00C9T\u00C9", u"fr-CA"},
-                                                               {u"no abbreviation", u""},
-                                                               {u"German", u""}};
-    for (const auto& [name, abbreviation] : cases)
-        EXPECT_EQ(GetLanguageAbbreviation(fake.config, u"WebMail", name, u"default"), abbreviation);
-}
-
-TEST(LanguageTable, AMissingListFileIsCreatedWithTheDefaultLanguagesWhereThatCanBeDone) {
+TEST(LanguageTable, TheBuiltInAbbreviationsServeUntilAListFileIsCreated) {
     FakeProgram fake;
-    EXPECT_EQ(LoadLanguageList(fake.config, u"WebMail", u"default.net").back(), u"Swedish");
-    EXPECT_EQ(FileBytes("WebMail-default.net-lang.txt"), kDefaultList);
-    PutFile("WebMail-default.net-lang.txt", "B\tb\r\n\r\n\xC9\te");
-    EXPECT_EQ(LoadLanguageList(fake.config, u"WebMail", u"default.net"),
-              (std::vector<std::u16string>{u"B", u"", u"\u00C9"}));
+    const std::pair<std::u16string, std::u16string> cases[] = {
+        {u"Chinese", u"zh"},   {u"ENGLISH", u"en"},
+        {u"french", u"fr"},    {u"German", u"de"},
+        {u"Italian", u"it"},   {u"Japanese", u"ja"},
+        {u"Korean", u"ko"},    {u"Portuguese", u"pt"},
+        {u"portugese", u"pt"}, {u"Brazilian Portuguese", u"pt-BR"},
+        {u"Polish", u"pl"},    {u"Brazilian PORTUGESE", u"pt-BR"},
+        {u"Danish", u"dk"},    {u"Spanish", u"es"},
+        {u"Turkish", u"tr"},   {u"Dutch", u"nl"},
+        {u"Swedish", u""},     {u"French ", u""}};
+    for (const auto& [name, abbreviation] : cases)
+        EXPECT_EQ(Abbreviation(fake, name), abbreviation);
+    EXPECT_EQ(LoadLanguageList(fake.config, u"WebMail", u"default").back(), u"Swedish");
+    EXPECT_EQ(FileBytes(kList),
+              "Chinese\tzh\r\nDanish\tdk\r\nEnglish\ten\r\nFrench\tfr\r\nGerman\tde\r\n"
+              "Italian\tit\r\nJapanese\tja\r\nKorean\tko\r\nPolish\tpl\r\nPortuguese\tpt\r\n"
+              "Brazilian Portuguese\tpt-BR\r\nSpanish\tes\r\nSwedish\tsw\r\n");
+    EXPECT_EQ(Abbreviation(fake, u"Swedish"), u"sw");
     fake.registry.strings[u"Application Directory"] = TextFromPath(fake.folder / "none");
-    EXPECT_TRUE(LoadLanguageList(fake.config, u"WebMail", u"default.net").empty());
+    EXPECT_TRUE(LoadLanguageList(fake.config, u"WebMail", u"default").empty());
+}
+
+TEST(LanguageTable, AListFileIsTheOnlySourceOfItsBasesLanguages) {
+    const FakeProgram fake;
+    PutFile(kList, "\xC9t\xE9\tfr-CA\r\nFrench\tfr\nFRENCH\tother\r\n\r\nNone");
+    EXPECT_EQ(LoadLanguageList(fake.config, u"WebMail", u"default"),
+              (std::vector<std::u16string>{u"\u00C9t\u00E9", u"French", u"FRENCH", u"", u"None"}));
+    EXPECT_EQ(Abbreviation(fake, u"french"), u"fr");
+    EXPECT_EQ(Abbreviation(fake, u"\u00C9T\u00C9"), u"fr-CA");
+    EXPECT_EQ(Abbreviation(fake, u"none"), u"");
+    EXPECT_EQ(Abbreviation(fake, u"German"), u"");
 }
 
 }  // namespace
