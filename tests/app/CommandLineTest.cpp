@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "app/ApplicationDiscovery.h"
 #include "support/FakeProgram.h"
 
 namespace cvlang {
@@ -37,28 +36,6 @@ TEST(CommandLine, WithoutApplicationOrBaseTheArgumentsAreInvalid) {
         EXPECT_EQ(box.title, u"CVLangTranslator");
         EXPECT_TRUE(box.buttons == MessageButtons::Ok && box.icon == MessageIcon::None);
     }
-}
-
-TEST(CommandLine, AnEmptyLanguageIsPassedOn) {
-    FakeProgram fake;
-    const auto lang = fake.folder / "NETWebMail" / "default" / "lang";
-    PutFile(fake.folder / "WebMail-default.net-lang.txt", "x\ty\r\n\tnone\r\n");
-    PutFile(lang / "SYS" / "a.asp", "a");
-    EXPECT_EQ(RunCommandLine(fake.program, u"WebMail default.net"), ExitStatus::Done);
-    EXPECT_EQ(FileBytes(lang / "none" / "a.asp"),
-              "\xEF\xBB\xBF"
-              "a");
-    EXPECT_TRUE(fake.messages.shown.empty());
-}
-
-TEST(ApplicationDiscovery, BasesAreListedInTheirOrderWhereTheirFolderExists) {
-    FakeProgram fake;
-    EXPECT_TRUE(DetectBases(fake.config, kProbedApplication).empty());
-    for (const char* name : {"zephra", "default", "kestos"})
-        std::filesystem::create_directories(fake.folder / "netwebmail" / name);
-    PutFile(fake.folder / "netwebmail" / "enterprise", "a file counts too");
-    EXPECT_EQ(DetectBases(fake.config, kProbedApplication),
-              (std::vector<std::u16string>{u"default.net", u"enterprise.net", u"zephra.net"}));
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 namespace cvlang {
 namespace {
 
-constexpr long kCritical = wxOK | wxICON_ERROR;
 constexpr long kYesNoCancel = wxYES_NO | wxCANCEL | wxICON_NONE;
 
 class Dialogs : public MainWindow {
@@ -50,8 +49,7 @@ TEST_F(Dialogs, ANewLanguageIsListedUnlessItsNameOrAbbreviationIsThereAlready) {
     AddLanguage();
     EXPECT_EQ(FileBytes(kLanguageList), "(no file)");
 
-    const std::string list = "French\tfr\r\nGerman\tde\r\n";
-    PutFile(kLanguageList, list);
+    PutFile(kLanguageList, "French\tfr\nGerman\tde");
     OfferLanguage(u"french", u"DE");
     script_.ExpectBox("Error", "That language name already exists and cannot be added.", kCritical);
     AddLanguage();
@@ -63,15 +61,14 @@ TEST_F(Dialogs, ANewLanguageIsListedUnlessItsNameOrAbbreviationIsThereAlready) {
     AddLanguage();
     OfferLanguage(u"Greek", u"el", "cmdQuit");
     AddLanguage();
-    EXPECT_EQ(FileBytes(kLanguageList), list);
+    EXPECT_EQ(FileBytes(kLanguageList), "French\tfr\nGerman\tde");
 
     OfferLanguage(u"Fran\u00E7ais", u"");
     AddLanguage();
-    EXPECT_EQ(FileBytes(kLanguageList), list +
-                                            "Fran\xE7"
-                                            "ais\t\r\n");
-    EXPECT_EQ(Entries("lstLanguages"),
-              std::vector<std::u16string>({u"French", u"German", u"Fran\u00E7ais"}));
+    EXPECT_EQ(FileBytes(kLanguageList),
+              "French\tfr\r\nGerman\tde\r\nFran\xE7"
+              "ais\t\r\n");
+    EXPECT_EQ(Entries("lstLanguages"), List({u"French", u"German", u"Fran\u00E7ais"}));
 }
 
 TEST_F(Dialogs, ATokenIsAddedAtTheEnd) {

@@ -46,6 +46,7 @@ TEST(ProgramFile, TellsWhatIsWrongByTextAndStatus) {
     EXPECT_EQ(run("WebMail"), ExitStatus::InvalidArguments);
     EXPECT_EQ(FileBytes("errors.txt").substr(0, 17), "Invalid arguments");
     EXPECT_EQ(run(""), ExitStatus::NoWindow);
+    EXPECT_EQ(run("WebMail default.net"), ExitStatus::Done);  // an empty language is one, too
     EXPECT_EQ(run(std::string(5000, 'x') + " default.net French"), ExitStatus::Done);
 }
 

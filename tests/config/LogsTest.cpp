@@ -8,28 +8,19 @@
 namespace cvlang {
 namespace {
 
-std::string Line(std::string_view message) {
-    std::string line = Utf16ToAnsi(FormatDateAndTime(FakeProgram::FixedClock()));
-    return line.append("\t").append(message).append("\r\n");
-}
-
-TEST(Logs, GrowLineByLineTheErrorLogInTheCurrentFolder) {
-    const TemporaryFolder folder;
-    Logs logs(FakeProgram::FixedClock, folder / "CVTrans.log");
-    const CurrentFolder current(folder.Path());
-    EXPECT_FALSE(logs.LogTranslationEvent(u"one \u00E9 \u3042"));
-    EXPECT_FALSE(logs.LogTranslationEvent(u"two"));
-    logs.LogTranslationTrace(u"one");
-    logs.LogTranslationTrace(u"two");
-    EXPECT_EQ(FileBytes("LangPort.log"), Line("one \xE9 ?") + Line("two"));
-    EXPECT_EQ(FileBytes(folder / "CVTrans.log"), Line("one") + Line("two"));
-}
-
-TEST(Logs, AnErrorLogThatCannotBeWrittenIsTold) {
-    const TemporaryFolder folder;
-    const CurrentFolder current(folder.Path());
+TEST(Logs, GrowLineByLineAndTellWhenTheErrorLogCannotBeWritten) {
+    FakeProgram fake;
+    const std::string start = Utf16ToAnsi(FormatDateAndTime(FakeProgram::FixedClock())) + "\t";
+    std::filesystem::create_directory("trace");
+    for (const char16_t* message : {u"one \u00E9 \u3042", u"two"}) {
+        EXPECT_FALSE(fake.logs.LogTranslationEvent(message));
+        fake.logs.LogTranslationTrace(message);
+    }
+    EXPECT_EQ(fake.ErrorLog(), start + "one \xE9 ?\r\n" + start + "two\r\n");
+    EXPECT_EQ(FileBytes("trace/CVTrans.log"), fake.ErrorLog());
+    std::filesystem::remove("LangPort.log");
     std::filesystem::create_directory("LangPort.log");
-    EXPECT_TRUE(Logs().LogTranslationEvent(u"lost"));
+    EXPECT_TRUE(fake.logs.LogTranslationEvent(u"lost"));
 }
 
 }  // namespace

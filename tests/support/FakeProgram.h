@@ -3,8 +3,8 @@
 #pragma once
 
 #include <map>
+#include <stdexcept>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "config/Program.h"
@@ -13,9 +13,8 @@
 
 namespace cvlang {
 
-/// Values of the product key.
-class FakeRegistry : public Registry {
-  public:
+/// Values of the product key, or no registry at all.
+struct FakeRegistry : Registry {
     std::u16string ReadString(std::u16string_view key, std::u16string_view name) const override {
         return Find(strings, key, name);
     }
@@ -23,22 +22,23 @@ class FakeRegistry : public Registry {
         return Find(numbers, key, name);
     }
 
+    template <typename Values>
+    typename Values::mapped_type Find(const Values& values, std::u16string_view key,
+                                      std::u16string_view name) const {
+        if (fails)
+            throw std::runtime_error("The registry is gone");
+        const auto found = values.find(name);
+        const bool isFound = key == u"SOFTWARE\\Corvane\\Corvane" && found != values.end();
+        return isFound ? found->second : typename Values::mapped_type();
+    }
+
     std::map<std::u16string, std::u16string, std::less<>> strings;
     std::map<std::u16string, std::int32_t, std::less<>> numbers;
-
-  private:
-    template <typename Value>
-    static Value Find(const std::map<std::u16string, Value, std::less<>>& values,
-                      std::u16string_view key, std::u16string_view name) {
-        const auto found = values.find(name);
-        return key == u"SOFTWARE\\Corvane\\Corvane" && found != values.end() ? found->second
-                                                                             : Value();
-    }
+    bool fails = false;
 };
 
 /// Keeps what it is shown and answers from a list, then with the first button.
-class RecordingMessages : public UserMessages {
-  public:
+struct RecordingMessages : UserMessages {
     MessageAnswer Show(const UserMessage& message) override {
         shown.push_back(message);
         if (answers.empty())
