@@ -13,6 +13,10 @@ using List = std::vector<std::u16string>;
 inline constexpr long kInformation = wxOK | wxICON_INFORMATION;
 inline constexpr long kCritical = wxOK | wxICON_ERROR;
 
+inline const std::u16string kHello = u"[CV_TXT-HELLO]: Hello: you";
+inline const std::u16string kBye = u"[CV_TXT-BYE]: Goodbye";
+inline const std::u16string kNew = u"[CV_TXT-NEW]";
+
 inline constexpr const char* kReferenceMap = "WebMail-default.net-tokens.map";
 inline constexpr const char* kFrenchMap = "WebMail-default.net-tokens-fr.map";
 inline constexpr const char* kLanguageList = "WebMail-default.net-lang.txt";

@@ -26,7 +26,6 @@ int RunProgram(const std::filesystem::path& installation, const std::string& arg
 
 TEST(ProgramFile, GeneratesOneLanguageFromTheSystemsSettings) {
     const TemporaryFolder folder;
-    const CurrentFolder current(folder.Path());
     const auto installation = folder / "In stallation";
     const auto lang = installation / "NETWebMail" / "Zephra" / "lang";
     PutFile(lang / "SYS" / "Login.aspx", "[CV_TXT-HELLO]\r\n");
@@ -39,7 +38,6 @@ TEST(ProgramFile, GeneratesOneLanguageFromTheSystemsSettings) {
 
 TEST(ProgramFile, TellsWhatIsWrongByTextAndStatus) {
     const TemporaryFolder folder;
-    const CurrentFolder current(folder.Path());
     const auto run = [&](const std::string& arguments) {
         return static_cast<ExitStatus>(RunProgram(folder / "none", arguments));
     };

@@ -46,13 +46,15 @@ TEST_F(ContentTree, PagesOfAllKindsAreTranslatedAtAnyDepthAndOtherFilesCopied) {
         {"web.config", kSource, kSource, ""},
         {"x.asp.bak", kSource, kSource, ""},
         {"logo.gif", kSource, kSource, "LOGO.gif"},
+        {"large", std::string(131072, 'x'), std::string(131072, 'x'), ""},
+        {"larger", std::string(200001, 'x'), std::string(200001, 'x'), "Larger"},
         {"in/aspx", kSource, kSource, "In/aspx"},
         {"in/x.jsp", kSource, kSource, "In/x.jsp"}};
     for (const auto& [name, source, result, existing] : files) {
         PutFile(sys / name, source);
         SetReadOnly(sys / name, true);
         if (!existing.empty())
-            PutFile(fr / existing, "stale");
+            PutFile(fr / existing, std::string(300000, 's'));
     }
     for (int run = 0; run < 2; ++run) {
         EXPECT_TRUE(Apply());

@@ -8,15 +8,7 @@
 namespace cvlang {
 namespace {
 
-TEST(Base64, AFullLineIsFollowedByALineBreakUnlessItIsTheOnlyOne) {
-    const std::string line(76, 'A');
-    const std::pair<std::size_t, std::string> cases[] = {
-        {57, line}, {58, line + "\r\nAA=="}, {114, line + "\r\n" + line + "\r\n"}};
-    for (const auto& [size, text] : cases)
-        EXPECT_EQ(Base64::EncodeString(std::string(size, '\0')), text);
-}
-
-TEST(Base64, EveryLengthAndEveryByteGoesThereAndBack) {
+TEST(Base64, EveryLengthAndEveryByteGoesThereAndBackInLines) {
     const std::string alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     EXPECT_EQ(Base64::EncodeByteArr(Base64::DecodeToByteArr(alphabet)), alphabet);
     std::string bytes;
@@ -25,9 +17,13 @@ TEST(Base64, EveryLengthAndEveryByteGoesThereAndBack) {
         ASSERT_EQ(Base64::DecodeToByteArr(text), bytes);
         ASSERT_EQ(text.size(), Base64::EncodedSize(size));
     }
-}
-
-TEST(Base64, LineBreaksAndPaddingAreSkippedAndForeignCharactersAreZeroBits) {
+    // A full line is followed by a line break unless it is the only one.
+    const std::string line(76, 'A');
+    const std::pair<std::size_t, std::string> cases[] = {
+        {57, line}, {58, line + "\r\nAA=="}, {114, line + "\r\n" + line + "\r\n"}};
+    for (const auto& [size, text] : cases)
+        EXPECT_EQ(Base64::EncodeString(std::string(size, '\0')), text);
+    // Line breaks and padding are skipped, and foreign characters are zero bits.
     EXPECT_EQ(Base64::DecodeToString("Z=m\r\n9v\r\nYg=="), "foob");
     EXPECT_EQ(Base64::DecodeToString("\nm\xE9v"), Base64::DecodeToString("AmAv"));
 }

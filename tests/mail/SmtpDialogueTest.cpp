@@ -91,7 +91,7 @@ TEST(SmtpDialogue, APeerThatIsGoneNeverEndsTheProgram) {
             EXPECT_EQ(delivery.message.SendMessage(), 0);
             const std::string& outcome = delivery.message.ErrorString;
             EXPECT_TRUE(outcome.starts_with("Windows Sockets error 1") || ending == Ending::Close ||
-                        !kTellsEveryReset)
+                        !kNetworkIsComplete)
                 << stage << outcome;
             EXPECT_TRUE(delivery.fake.ErrorLog().ends_with("\t" + outcome + "\r\n"));
         }

@@ -52,7 +52,7 @@ struct RecordingMessages : UserMessages {
     std::vector<MessageAnswer> answers;
 };
 
-/// A program whose application directory is a temporary folder, which is the current folder too.
+/// A program whose application directory is a temporary folder.
 struct FakeProgram {
     FakeProgram() {
         registry.strings[u"Application Directory"] = TextFromPath(folder.Path());
@@ -64,7 +64,6 @@ struct FakeProgram {
     std::string ErrorLog() const { return FileBytes(folder / "LangPort.log"); }
 
     TemporaryFolder folder;
-    CurrentFolder current{folder.Path()};
     FakeRegistry registry;
     Configuration config{registry};
     Logs logs{FixedClock, folder / "trace" / "CVTrans.log"};

@@ -15,21 +15,15 @@ TemporaryFolder::TemporaryFolder() {
     path_ = fs::canonical(fs::temp_directory_path()) /
             ("cvlang-" + std::to_string(now) + "-" + std::to_string(number++));
     fs::create_directories(path_);
+    fs::current_path(path_);
 }
 
 TemporaryFolder::~TemporaryFolder() {
     std::error_code ignored;
+    fs::current_path(before_, ignored);
     for (const auto& entry : fs::recursive_directory_iterator(path_, ignored))
         fs::permissions(entry.path(), fs::perms::owner_all, fs::perm_options::add, ignored);
     fs::remove_all(path_, ignored);
-}
-
-CurrentFolder::CurrentFolder(const fs::path& folder) : before_(fs::current_path()) {
-    fs::current_path(folder);
-}
-
-CurrentFolder::~CurrentFolder() {
-    fs::current_path(before_);
 }
 
 void PutFile(const fs::path& path, std::string_view bytes) {

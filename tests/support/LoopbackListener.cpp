@@ -4,7 +4,7 @@
 
 namespace cvlang {
 
-const bool kTellsEveryReset = kResetsAreTold;
+const bool kNetworkIsComplete = kIsComplete;
 
 LoopbackListener::LoopbackListener() {
     StartSocketLibrary();

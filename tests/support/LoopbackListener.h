@@ -22,8 +22,9 @@ class LoopbackListener {
     int port_ = 0;
 };
 
-/// Whether a reset is told to whoever waits for data. Wine keeps some to itself.
-extern const bool kTellsEveryReset;
+/// Whether the system's libraries do all that they should. Wine's keep some resets to themselves
+/// and do not forbid caches to answer.
+extern const bool kNetworkIsComplete;
 
 /// Closes a connection as a peer that crashes does.
 void ResetConnection(SocketHandle socket);

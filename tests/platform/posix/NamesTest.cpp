@@ -24,7 +24,6 @@ TEST(FindExisting, FindsAnEntryAsWindowsWould) {
         {"none/of/these", "none/of/these"}};
     for (const auto& [asked, found] : cases)
         EXPECT_EQ(FindExisting(folder / asked), folder / found) << asked;
-    const CurrentFolder current(folder.Path());
     EXPECT_EQ(FindExisting("NETWEBMAIL/zephra"), "NETWebMail/Zephra");
     FileContent content;
     EXPECT_EQ(ReadFile("NETWEBMAIL/zephra/PAGE.asp", content), FileStatus::Okay);
