@@ -105,36 +105,25 @@ TEST_F(ContentTree, WithoutAnAbbreviationTheRootItselfIsTheLanguagesFolder) {
 
 TEST_F(ContentTree, TheQuestionIsAskedOnlyOfAUserWhoHasPagesToLose) {
     PutFile(sys / "a.asp", "fresh");
-    const struct {
-        bool hasPages;
-        int noPrompt;
-        bool unattended;
-        MessageAnswer answer;
-        bool asked;
-    } cases[] = {{false, 0, false, MessageAnswer::No, false},
-                 {true, 1, false, MessageAnswer::No, false},
-                 {true, 0, true, MessageAnswer::No, false},
-                 {true, 0, false, MessageAnswer::No, true},
-                 {true, 0, false, MessageAnswer::Yes, true}};
-    for (const auto& [hasPages, noPrompt, unattended, answer, asked] : cases) {
-        fs::remove_all(fr);
-        if (hasPages)
-            PutFile(fr / "a.asp", "own");
-        fake.messages.shown.clear();
+    const auto prepare = [this](int noPrompt, MessageAnswer answer) {
         fake.messages.answers = {answer};
-        fake.program.unattended = unattended;
-        const bool goesOn = !asked || answer == MessageAnswer::Yes;
-        EXPECT_EQ(
-            PrepareLanguageFolder(fake.program, u"WebMail", u"default.net", u"French", noPrompt),
-            goesOn);
+        const bool goesOn =
+            PrepareLanguageFolder(fake.program, u"WebMail", u"default.net", u"French", noPrompt);
         EXPECT_EQ(FileBytes(fr / "a.asp"), goesOn ? "fresh" : "own");
-        EXPECT_EQ(fake.messages.shown.size(), asked ? 1U : 0U);
-    }
-    const UserMessage& question = fake.messages.shown.at(0);
-    EXPECT_EQ(question.text,
+        return goesOn;
+    };
+    EXPECT_TRUE(prepare(0, MessageAnswer::No));
+    PutFile(fr / "a.asp", "own");
+    EXPECT_TRUE(prepare(1, MessageAnswer::No));
+    EXPECT_TRUE(fake.messages.shown.empty());
+    PutFile(fr / "a.asp", "own");
+    EXPECT_FALSE(prepare(0, MessageAnswer::No));
+    EXPECT_EQ(fake.messages.shown.at(0).text,
               u"Web Content for this Language already exists, do you wish to overwrite it?");
-    EXPECT_TRUE(question.buttons == MessageButtons::YesNo &&
-                question.icon == MessageIcon::Question);
+    EXPECT_TRUE(prepare(0, MessageAnswer::Yes));
+    fake.program.unattended = true;
+    EXPECT_TRUE(prepare(0, MessageAnswer::No));
+    EXPECT_EQ(fake.messages.shown.size(), 2U);
 }
 
 TEST_F(ContentTree, DebugModeTracesEveryTokenWithItsCountOverAllRuns) {

@@ -101,24 +101,24 @@ TEST(Message, WithoutAnyFileInTheCurrentFolderAttachmentsAreAnnounced) {
 
 TEST(Message, SetDefaultEmptiesAllButTheFlagsAndWhatIsMissingIsTold) {
     MailFixture mail;
-    mail.message.AddAttachment("a", "b");
-    mail.message.AddHeader("X: y");
-    mail.message.AuthenticationMode = 1;
-    mail.message.NoEventLog = true;
-    mail.message.SetDefault();
-    EXPECT_TRUE(mail.message.ServerPort == 25 && mail.message.AuthenticationMode == 0 &&
-                mail.message.NoEventLog);
-    const std::string text = mail.message.ComposeText();
+    Message& message = mail.message;
+    message.AddAttachment("a", "b");
+    message.AddHeader("X: y");
+    message.AuthenticationMode = 1;
+    message.NoEventLog = true;
+    message.SetDefault();
+    EXPECT_TRUE(message.ServerPort == 25 && message.AuthenticationMode == 0 && message.NoEventLog);
+    const std::string text = message.ComposeText();
     EXPECT_TRUE(text.starts_with("From: <>\r\nTo: \r\nSubject: \r\n"));
     EXPECT_TRUE(text.ends_with(".MAI@" + Utf16ToAnsi(GetLocalComputerName()) + ">\r\n\r\n"));
     mail.fake.registry.strings[u"SMTPLocalDomainName"] = u"configured";
-    EXPECT_TRUE(mail.message.ComposeText().ends_with(".MAI@configured>\r\n\r\n"));
-    EXPECT_THROW(mail.message.AddAttachment("  ", "name"), MailError);
-    EXPECT_EQ(mail.message.ErrorString, "You must specify a filename for the attachment.");
+    EXPECT_TRUE(message.ComposeText().ends_with(".MAI@configured>\r\n\r\n"));
+    EXPECT_THROW(message.AddAttachment("  ", "name"), MailError);
+    EXPECT_EQ(message.ErrorString, "You must specify a filename for the attachment.");
     for (const char* missing : {"From", "To"}) {
-        EXPECT_EQ(mail.message.SendMessage(), 0);
-        EXPECT_EQ(mail.message.ErrorString, std::string("No ") + missing + ": address given");
-        mail.message.MailFrom = "f@here";
+        EXPECT_EQ(message.SendMessage(), 0);
+        EXPECT_EQ(message.ErrorString, std::string("No ") + missing + ": address given");
+        message.MailFrom = "f@here";
     }
 }
 

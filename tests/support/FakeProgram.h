@@ -13,23 +13,21 @@
 
 namespace cvlang {
 
-/// Values of the product key, or no registry at all.
+/// The values of the product, or no registry at all.
 struct FakeRegistry : Registry {
-    std::u16string ReadString(std::u16string_view key, std::u16string_view name) const override {
-        return Find(strings, key, name);
+    std::u16string ReadString(std::u16string_view, std::u16string_view name) const override {
+        return Find(strings, name);
     }
-    std::int32_t ReadDword(std::u16string_view key, std::u16string_view name) const override {
-        return Find(numbers, key, name);
+    std::int32_t ReadDword(std::u16string_view, std::u16string_view name) const override {
+        return Find(numbers, name);
     }
 
     template <typename Values>
-    typename Values::mapped_type Find(const Values& values, std::u16string_view key,
-                                      std::u16string_view name) const {
+    typename Values::mapped_type Find(const Values& values, std::u16string_view name) const {
         if (fails)
             throw std::runtime_error("The registry is gone");
         const auto found = values.find(name);
-        const bool isFound = key == u"SOFTWARE\\Corvane\\Corvane" && found != values.end();
-        return isFound ? found->second : typename Values::mapped_type();
+        return found == values.end() ? typename Values::mapped_type() : found->second;
     }
 
     std::map<std::u16string, std::u16string, std::less<>> strings;

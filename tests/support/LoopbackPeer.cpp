@@ -1,4 +1,4 @@
-#include "support/LoopbackListener.h"
+#include "support/LoopbackPeer.h"
 
 #include "SocketHeaders.h"
 
