@@ -106,7 +106,7 @@ TEST_F(ContentTree, WithoutAnAbbreviationTheRootItselfIsTheLanguagesFolder) {
 TEST_F(ContentTree, TheQuestionIsAskedOnlyOfAUserWhoHasPagesToLose) {
     PutFile(sys / "a.asp", "fresh");
     const auto prepare = [this](int noPrompt, MessageAnswer answer) {
-        fake.messages.answers = {answer};
+        fake.messages.answer = answer;
         const bool goesOn =
             PrepareLanguageFolder(fake.program, u"WebMail", u"default.net", u"French", noPrompt);
         EXPECT_EQ(FileBytes(fr / "a.asp"), goesOn ? "fresh" : "own");

@@ -59,8 +59,7 @@ TEST(SmtpDialogue, EveryReplyLeadsToItsConversation) {
         {"user", "220|250|334|235|552", login + mail, kNoSender + "552"},
         {"user", "220|250|500|552|552", login + mail, kNoSender + "552"},
         {"user", "220|250|334|504", login, kNoAccess + "504"},
-        {"user", "220|250|", named, kNoAccess},
-    };
+        {"user", "220|250|", named, kNoAccess}};
     for (const auto& [to, script, conversation, outcome] : cases) {
         Delivery delivery(script);
         delivery.message.MailTo = to;

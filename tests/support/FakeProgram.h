@@ -35,19 +35,15 @@ struct FakeRegistry : Registry {
     bool fails = false;
 };
 
-/// Keeps what it is shown and answers from a list, then with the first button.
+/// Keeps what it is shown, and gives every question the same answer.
 struct RecordingMessages : UserMessages {
     MessageAnswer Show(const UserMessage& message) override {
         shown.push_back(message);
-        if (answers.empty())
-            return message.buttons == MessageButtons::Ok ? MessageAnswer::Ok : MessageAnswer::Yes;
-        const MessageAnswer answer = answers.front();
-        answers.erase(answers.begin());
-        return answer;
+        return message.buttons == MessageButtons::Ok ? MessageAnswer::Ok : answer;
     }
 
     std::vector<UserMessage> shown;
-    std::vector<MessageAnswer> answers;
+    MessageAnswer answer = MessageAnswer::Yes;
 };
 
 /// A program whose application directory is a temporary folder.

@@ -48,17 +48,6 @@ void Type(wxWindow& parent, const char* box, const std::u16string& text) {
     Settle();
 }
 
-std::set<wxString> Captions(const wxWindow& window) {
-    std::set<wxString> captions;
-    for (const wxWindow* child : window.GetChildren())
-        captions.merge(Captions(*child));
-    wxString own = window.GetLabel();
-    own.Replace("\n", " ");  // where it is wrapped
-    if (!own.empty() && dynamic_cast<const wxTextCtrl*>(&window) == nullptr)
-        captions.insert(own);
-    return captions;
-}
-
 WindowScript::~WindowScript() {
     EXPECT_TRUE(steps_.empty()) << "did not come: " << steps_.front().first;
     Unregister();

@@ -9,7 +9,6 @@
 
 #include <deque>
 #include <functional>
-#include <set>
 #include <string>
 
 #include "widgets/SelectionList.h"
@@ -32,9 +31,6 @@ Window& Find(wxWindow& parent, const char* name) {
     EXPECT_NE(found, nullptr) << name;
     return *found;
 }
-
-/// The captions of a window and of all that is in it, but for what is in boxes.
-std::set<wxString> Captions(const wxWindow& window);
 
 void Press(wxWindow& parent, const char* button);
 void Choose(wxWindow& frame, int menuEntry);
