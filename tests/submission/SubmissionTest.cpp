@@ -8,8 +8,6 @@ namespace cvlang {
 namespace {
 
 TEST(Submission, TheMessageTellsWhatIsAttached) {
-    EXPECT_EQ(SubmissionSubject(u"WebMail", u"default.net", u"French"),
-              u"[Language Token File Submission]: WebMail - default.net (French)");
     EXPECT_EQ(SubmissionBody(u"WebMail", u"default.net", u"French"),
               u"Dear Support Team,\r\n\r\nI have attached the language token files for the "
               u"following: \r\n\r\nApplication: \tWebMail\r\nBase: \t\tdefault.net\r\n"

@@ -86,20 +86,12 @@ TEST(LanguageTable, TheBuiltInAbbreviationsServeUntilAListFileIsCreated) {
         EXPECT_EQ(Abbreviation(fake, name), abbreviation);
     EXPECT_EQ(LoadLanguageList(fake.config, u"WebMail", u"default").back(), u"Swedish");
     EXPECT_EQ(FileBytes(kList), Utf16ToAnsi(kInBothTables) + "Swedish\tsw\r\n");
-    EXPECT_EQ(Abbreviation(fake, u"Swedish"), u"sw");
+    EXPECT_EQ(Abbreviation(fake, u"swedish"), u"sw");
+    EXPECT_EQ(Abbreviation(fake, u"Turkish"), u"");
+    PutFile(kList, "\xC9t\xE9\tfr-CA\n\n\xC9T\xC9\tother");
+    EXPECT_EQ(Abbreviation(fake, u"\u00E9t\u00E9"), u"fr-CA");
     fake.registry.strings[u"Application Directory"] = TextFromPath(fake.folder / "none");
     EXPECT_TRUE(LoadLanguageList(fake.config, u"WebMail", u"default").empty());
-}
-
-TEST(LanguageTable, AListFileIsTheOnlySourceOfItsBasesLanguages) {
-    const FakeProgram fake;
-    PutFile(kList, "\xC9t\xE9\tfr-CA\r\nFrench\tfr\nFRENCH\tother\r\n\r\nNone");
-    EXPECT_EQ(LoadLanguageList(fake.config, u"WebMail", u"default"),
-              (std::vector<std::u16string>{u"\u00C9t\u00E9", u"French", u"FRENCH", u"", u"None"}));
-    EXPECT_EQ(Abbreviation(fake, u"french"), u"fr");
-    EXPECT_EQ(Abbreviation(fake, u"\u00C9T\u00C9"), u"fr-CA");
-    EXPECT_EQ(Abbreviation(fake, u"none"), u"");
-    EXPECT_EQ(Abbreviation(fake, u"German"), u"");
 }
 
 constexpr char kFrench[] = "WebMail-default-tokens-fr.map";
