@@ -1,6 +1,5 @@
 #include "support/Files.h"
 
-#include <atomic>
 #include <chrono>
 #include <fstream>
 #include <iterator>
@@ -10,10 +9,8 @@ namespace cvlang {
 namespace fs = std::filesystem;
 
 TemporaryFolder::TemporaryFolder() {
-    static std::atomic<int> number = 0;
     const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
-    path_ = fs::canonical(fs::temp_directory_path()) /
-            ("cvlang-" + std::to_string(now) + "-" + std::to_string(number++));
+    path_ = fs::canonical(fs::temp_directory_path()) / ("cvlang-" + std::to_string(now));
     fs::create_directories(path_);
     fs::current_path(path_);
 }
