@@ -57,6 +57,9 @@ TEST(KeyedLines, EveryFailureLeavesItsState) {
     fs::create_directory("_t.map");
     Rewrite(fake);  // a temporary file that cannot be created costs the file
     EXPECT_EQ(FileBytes("t.map"), kNoFile);
+    PutFile("t.map", kOld);
+    RewriteKeyedLine("t.map", "none/_t.map", u"k", u"new", fake.logs);
+    EXPECT_EQ(FileBytes("t.map"), kNoFile);
 
     EXPECT_EQ(fake.ErrorLog(), kNoFile);
     Rewrite(fake, "none");  // only a file that cannot be opened is told
