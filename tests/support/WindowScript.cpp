@@ -70,7 +70,7 @@ void WindowScript::ExpectDialog(const wxString& name, std::function<void(wxDialo
         EXPECT_EQ(dialog.GetName(), name);
         dialog.CallAfter([actions, &dialog] {
             actions(dialog);
-            if (dialog.IsModal()) {
+            if (dialog.IsShown()) {
                 ADD_FAILURE() << dialog.GetTitle() << " is still open";
                 dialog.EndModal(wxID_CANCEL);
             }
