@@ -6,7 +6,7 @@
 
 #include "download/TokenFileFetch.h"
 #include "fuzz/Fuzz.h"
-#include "support/LoopbackListener.h"
+#include "support/LoopbackPeer.h"
 
 namespace cvlang {
 namespace {

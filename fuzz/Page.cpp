@@ -17,20 +17,15 @@ void cvlang::Try(std::string_view input) {
         if (growth > 1000000)  // values within values: the page would become as large
             return;
     }
-    const bool scriptFile = line.starts_with('s');
-    const bool scriptAware = !line.starts_with('p');
-    const PlainPage expected =
-        SubstitutePlainly(std::string(input), tokens, values, scriptFile, scriptAware);
+    const ScriptMode mode = line.starts_with('s')   ? ScriptMode::Always
+                            : line.starts_with('p') ? ScriptMode::Ignored
+                                                    : ScriptMode::Tracked;
+    const plain::Page expected = plain::Substitute(std::string(input), tokens, values, mode);
     const TokenIndex index(tokens, values);
     std::vector<std::int32_t> useCounts(tokens.size());
     PlaceholderSubstitution substitution(index, useCounts);
     std::string text;
-    Must(substitution.Translate(input,
-                                scriptFile    ? ScriptMode::Always
-                                : scriptAware ? ScriptMode::Tracked
-                                              : ScriptMode::Ignored,
-                                text),
-         "a page is translated");
+    Must(substitution.Translate(input, mode, text), "a page is translated");
     Must(text == expected.text, "the text is that of the plain procedure");
     Must(useCounts == expected.useCounts, "so are the counts");
 }

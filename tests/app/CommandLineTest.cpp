@@ -1,64 +1,66 @@
-#include "app/CommandLine.h"
-
+// The built program as a set-up program calls it, and how it takes its arguments apart.
 #include <gtest/gtest.h>
 
-#include "app/ApplicationDiscovery.h"
-#include "support/FakeProgram.h"
+#include <cstdlib>
+#include <vector>
+
+#include "app/CommandLine.h"
+#include "support/Files.h"
 
 namespace cvlang {
 namespace {
 
-TEST(CommandLine, QuotedFieldsAreTakenByNumber) {
-    const std::tuple<std::u16string, int, std::u16string> cases[] = {
-        {u"WebMail default.net French", 1, u"WebMail"},
-        {u"WebMail default.net French", 3, u"French"},
-        {u"WebMail default.net French", 4, u""},
-        {u"WebMail default.net French", 0, u""},
-        {u"x \"Brazilian Portuguese\"", 2, u"Brazilian Portuguese"},
-        {u"\"Web Mail\" x", 2, u"x"},
-        {u"W\"eb M\"ail x", 1, u"Web Mail"},
-        {u"a  b", 2, u""},
-        {u"a  b", 3, u"b"},
-        {u" a", 1, u""},
-        {u"a \"b c", 2, u"b c"},
-        {u"a \"\" c", 2, u""},
-        {u"", 1, u""}};
-    for (const auto& [text, n, field] : cases)
-        EXPECT_EQ(GetQuotedField(text, u' ', n), field);
+/// Runs the program on an installation. `arguments` are written as a shell takes them.
+int RunProgram(const std::filesystem::path& installation, const std::string& arguments) {
+    PutFile("registry.reg",
+            "Windows Registry Editor Version 5.00\r\n\r\n"
+            "[HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\Corvane]\r\n"
+            "\"Application Directory\"=\"" +
+                installation.generic_string() + "\"\r\n\"Authoring Version\"=dword:2\r\n");
+    const std::string command = WITH_SETTINGS PROGRAM_FILE " " + arguments + " 2> errors.txt";
+    const int status = std::system(command.c_str());
+    return status > 255 ? status / 256 : status;  // as Linux and as Windows report it
 }
 
-TEST(CommandLine, WithoutApplicationOrBaseTheArgumentsAreInvalid) {
-    for (const char16_t* line : {u"   ", u"WebMail", u"WebMail  default.net", u" WebMail x"}) {
-        FakeProgram fake;
-        EXPECT_EQ(RunCommandLine(fake.program, line), ExitStatus::InvalidArguments);
-        ASSERT_EQ(fake.messages.shown.size(), 1U);
-        const UserMessage& box = fake.messages.shown[0];
-        EXPECT_EQ(box.text, u"Invalid arguments");
-        EXPECT_EQ(box.title, u"CVLangTranslator");
-        EXPECT_TRUE(box.buttons == MessageButtons::Ok && box.icon == MessageIcon::None);
+TEST(CommandLine, QuotedFieldsAreTakenByNumber) {
+    const std::pair<std::u16string, std::vector<std::u16string>> cases[] = {
+        {u"WebMail default.net French", {u"", u"WebMail", u"default.net", u"French", u""}},
+        {u"x \"Brazilian Portuguese\"", {u"", u"x", u"Brazilian Portuguese"}},
+        {u"W\"eb M\"ail x", {u"", u"Web Mail", u"x"}},
+        {u"a  b", {u"", u"a", u"", u"b"}},
+        {u" a \"\" c", {u"", u"", u"a", u"", u"c"}},
+        {u"a \"b c", {u"", u"a", u"b c"}},
+        {u"", {u"", u""}}};
+    for (const auto& [text, fields] : cases) {
+        for (std::size_t n = 0; n < fields.size(); ++n)
+            EXPECT_EQ(GetQuotedField(text, u' ', static_cast<int>(n)), fields[n]);
     }
 }
 
-TEST(CommandLine, AnEmptyLanguageIsPassedOn) {
-    FakeProgram fake;
-    const auto lang = fake.folder / "NETWebMail" / "default" / "lang";
-    PutFile(fake.folder / "WebMail-default.net-lang.txt", "x\ty\r\n\tnone\r\n");
-    PutFile(lang / "SYS" / "a.asp", "a");
-    EXPECT_EQ(RunCommandLine(fake.program, u"WebMail default.net"), ExitStatus::Done);
-    EXPECT_EQ(FileBytes(lang / "none" / "a.asp"),
-              "\xEF\xBB\xBF"
-              "a");
-    EXPECT_TRUE(fake.messages.shown.empty());
+TEST(ProgramFile, GeneratesOneLanguageFromTheSystemsSettings) {
+    const TemporaryFolder folder;
+    const auto installation = folder / "In stallation";
+    const auto lang = installation / "NETWebMail" / "Zephra" / "lang";
+    PutFile(lang / "SYS" / "Login.aspx", "[CV_TXT-HELLO]\r\n");
+    PutFile(installation / "WebMail-zephra.net-tokens-pt-BR.map",
+            Utf16Bytes(u"[CV_TXT-HELLO]\tOl\u00E1\r\n"));
+    EXPECT_EQ(RunProgram(installation, "WebMail zephra.net \"Brazilian Portuguese\""), 0);
+    EXPECT_EQ(FileBytes(lang / "pt-BR" / "Login.aspx"), "\xEF\xBB\xBFOl\xC3\xA1");
+    EXPECT_EQ(FileBytes("errors.txt"), "");
 }
 
-TEST(ApplicationDiscovery, BasesAreListedInTheirOrderWhereTheirFolderExists) {
-    FakeProgram fake;
-    EXPECT_TRUE(DetectBases(fake.config, kProbedApplication).empty());
-    for (const char* name : {"zephra", "default", "kestos"})
-        std::filesystem::create_directories(fake.folder / "netwebmail" / name);
-    PutFile(fake.folder / "netwebmail" / "enterprise", "a file counts too");
-    EXPECT_EQ(DetectBases(fake.config, kProbedApplication),
-              (std::vector<std::u16string>{u"default.net", u"enterprise.net", u"zephra.net"}));
+TEST(ProgramFile, TellsWhatIsWrongByTextAndStatus) {
+    const TemporaryFolder folder;
+    const auto run = [&](const std::string& arguments) {
+        return static_cast<ExitStatus>(RunProgram(folder / "none", arguments));
+    };
+    for (const char* arguments : {"WebMail", "WebMail \"\" French", "\"\" default.net French"}) {
+        EXPECT_EQ(run(arguments), ExitStatus::InvalidArguments);
+        EXPECT_EQ(FileBytes("errors.txt").substr(0, 17), "Invalid arguments");
+    }
+    EXPECT_EQ(run(""), ExitStatus::NoWindow);
+    EXPECT_EQ(run("WebMail default.net"), ExitStatus::Done);  // an empty language is one, too
+    EXPECT_EQ(run(std::string(5000, 'x') + " default.net French"), ExitStatus::Done);
 }
 
 }  // namespace

@@ -4,123 +4,116 @@
 namespace cvlang {
 namespace {
 
-constexpr long kCritical = wxOK | wxICON_ERROR;
 constexpr long kYesNoCancel = wxYES_NO | wxCANCEL | wxICON_NONE;
 
 class Dialogs : public MainWindow {
   protected:
-    void OfferLanguage(const std::u16string& name, const std::u16string& abbreviation,
-                       const char* button = "cmdOK") {
+    void AddLanguage(const std::u16string& name, const std::u16string& abbreviation,
+                     const wxString& refusal = "", const char* button = "cmdOK") {
         script_.ExpectDialog("frmAddLanguage", [=](wxDialog& dialog) {
             EXPECT_EQ(dialog.GetTitle(), "Add Language: WebMail[default.net]");
-            EXPECT_EQ(Find<wxWindow>(dialog, "Label1").GetLabel(), "Enter language name:");
-            EXPECT_EQ(Find<wxWindow>(dialog, "Label2").GetLabel(),
-                      "Enter abbreviation for language (e.g. EN):");
-            EXPECT_EQ(Find<wxWindow>(dialog, "cmdQuit").GetLabel(), "Cancel");
             Type(dialog, "txtLanguage", name);
             Type(dialog, "txtAbbrev", abbreviation);
             Press(dialog, button);
         });
+        if (!refusal.empty())
+            script_.ExpectBox("Error", refusal, kCritical);
+        Choose(Window(), frmMain::mnuNewLanguage);
     }
-    void AddLanguage() { Choose(Window(), frmMain::mnuNewLanguage); }
 
-    void AskToRemove(const char* button = "cmdAction") {
+    /// Asks to remove [CV_TXT-HELLO]; the answer is given to the question that the action leads to.
+    void RemoveToken(const char* button, int answer = 0) {
         script_.ExpectDialog("frmAddToken", [=](wxDialog& dialog) {
             EXPECT_EQ(dialog.GetTitle(), "Remove Token");
             EXPECT_EQ(Find<wxWindow>(dialog, "cmdAction").GetLabel(), "Remove");
-            EXPECT_EQ(Find<TextBox>(dialog, "txtTokenName").GetValue(), "[CV_TXT-HELLO]");
-            EXPECT_EQ(Find<TextBox>(dialog, "txtTokenValue").GetValue(), "Hello");
-            EXPECT_FALSE(Find<TextBox>(dialog, "txtTokenName").IsEditable());
-            EXPECT_FALSE(Find<TextBox>(dialog, "txtTokenValue").IsEditable());
+            for (const auto& [box, text] :
+                 {std::pair{"txtTokenName", u"[CV_TXT-HELLO]"}, {"txtTokenValue", u"Hello"}}) {
+                EXPECT_EQ(Find<TextBox>(dialog, box).Text(), text);
+                EXPECT_FALSE(Find<TextBox>(dialog, box).IsEditable());
+            }
             Press(dialog, button);
         });
-    }
-    void ExpectConfirmation(int answer) {
-        script_.ExpectBox("Confirm Removal",
-                          "Also remove this token from all translated language files?",
-                          kYesNoCancel, answer);
+        if (answer != 0) {
+            script_.ExpectBox("Confirm Removal",
+                              "Also remove this token from all translated language files?",
+                              kYesNoCancel, answer);
+        }
+        Press(Window(), "cmdRemoveToken");
     }
 };
 
 TEST_F(Dialogs, ANewLanguageIsListedUnlessItsNameOrAbbreviationIsThereAlready) {
-    OfferLanguage(u"Greek", u"el");
-    script_.ExpectBox(
-        "Error", "Could not load language file " + ToWx(TextFromPath(fake_.folder / kLanguageList)),
-        kCritical);
-    AddLanguage();
+    AddLanguage(u"Greek", u"el",
+                "Could not load language file " + ToWx(TextFromPath(fake_.folder / kLanguageList)));
     EXPECT_EQ(FileBytes(kLanguageList), "(no file)");
 
-    const std::string list = "French\tfr\r\nGerman\tde\r\n";
-    PutFile(kLanguageList, list);
-    OfferLanguage(u"french", u"DE");
-    script_.ExpectBox("Error", "That language name already exists and cannot be added.", kCritical);
-    AddLanguage();
-    OfferLanguage(u"Fran\u00E7ais", u"FR");
-    script_.ExpectBox("Error", "That language abbreviation already exists and cannot be added.",
-                      kCritical);
-    AddLanguage();
-    OfferLanguage(u"", u"el");
-    AddLanguage();
-    OfferLanguage(u"Greek", u"el", "cmdQuit");
-    AddLanguage();
-    EXPECT_EQ(FileBytes(kLanguageList), list);
+    PutFile(kLanguageList, "French\tfr\nGerman\tde");
+    AddLanguage(u"french", u"DE", "That language name already exists and cannot be added.");
+    AddLanguage(u"Fran\u00E7ais", u"FR",
+                "That language abbreviation already exists and cannot be added.");
+    AddLanguage(u"", u"el");
+    AddLanguage(u"Greek", u"el", "", "cmdQuit");
+    EXPECT_EQ(FileBytes(kLanguageList), "French\tfr\nGerman\tde");
 
-    OfferLanguage(u"Fran\u00E7ais", u"");
-    AddLanguage();
-    EXPECT_EQ(FileBytes(kLanguageList), list +
-                                            "Fran\xE7"
-                                            "ais\t\r\n");
-    EXPECT_EQ(Entries("lstLanguages"),
-              std::vector<std::u16string>({u"French", u"German", u"Fran\u00E7ais"}));
+    AddLanguage(u"Fran\u00E7ais", u"");
+    EXPECT_EQ(FileBytes(kLanguageList),
+              "French\tfr\r\nGerman\tde\r\nFran\xE7"
+              "ais\t\r\n");
+    EXPECT_EQ(Entries("lstLanguages"), List({u"French", u"German", u"Fran\u00E7ais"}));
 }
 
-TEST_F(Dialogs, ATokenIsAddedAtTheEnd) {
+TEST_F(Dialogs, ATokenIsAddedAtTheEndOnALineOfItsOwn) {
     Pick(Window(), "lstLanguages", u"French");
-    const std::string before = FileBytes(kReferenceMap);
-    for (const char* button : {"cmdCancel", "cmdAction"}) {
-        script_.ExpectDialog("frmAddToken", [=](wxDialog& dialog) {
+    const std::u16string reference = u"\t\t\t[CV_TXT-HELLO]\tHello: you";
+    const std::u16string more = u"\t\t\t[CV_TXT- MORE]\tMore \u20AC\r\n";
+    const std::tuple<std::u16string, const char*, std::u16string> cases[] = {
+        {reference, "cmdCancel", reference},
+        {reference, "cmdAction", reference + u"\r\n" + more},
+        {reference + u"\n", "cmdAction", reference + u"\n\r\n" + more},
+        {reference + u"\r\n", "cmdAction", reference + u"\r\n" + more}};
+    for (const auto& [before, button, after] : cases) {
+        PutFile(kReferenceMap, Utf16Bytes(before));
+        script_.ExpectDialog("frmAddToken", [button = button](wxDialog& dialog) {
             EXPECT_EQ(dialog.GetTitle(), "Add New Token");
-            EXPECT_EQ(Find<wxWindow>(dialog, "Label1").GetLabel(), "Token Name:");
-            EXPECT_EQ(Find<wxWindow>(dialog, "Label3").GetLabel(), "English Value:");
             EXPECT_EQ(Find<wxWindow>(dialog, "cmdAction").GetLabel(), "Add");
-            EXPECT_EQ(Find<wxWindow>(dialog, "cmdCancel").GetLabel(), "Cancel");
             Type(dialog, "txtTokenName", u" MORE");
             Type(dialog, "txtTokenValue", u"More \u20AC");
             Press(dialog, button);
         });
-        Pick(Window(), "lbxTokens", u"[CV_TXT-BYE]: Goodbye");
         Press(Window(), "cmdAddToken");
-        EXPECT_EQ(Token(), u"[CV_TXT-HELLO]: Hello: you");
+        EXPECT_EQ(Token(), kHello);
+        EXPECT_EQ(FileBytes(kReferenceMap), Utf16Bytes(after));
     }
-    EXPECT_EQ(FileBytes(kReferenceMap),
-              before + Utf16Bytes(u"\t\t\t[CV_TXT- MORE]\tMore \u20AC\r\n").substr(2));
-    EXPECT_EQ(Entries("lbxTokens").back(), u"[CV_TXT- MORE]: More \u20AC");
+    EXPECT_EQ(Entries("lbxTokens"), List({kHello, u"[CV_TXT- MORE]: More \u20AC"}));
 }
 
 TEST_F(Dialogs, ATokenIsRemovedAsFarAsTheUserWants) {
-    Pick(Window(), "lstLanguages", u"French");
     const std::string reference = FileBytes(kReferenceMap);
-    const std::string french = FileBytes(kFrenchMap);
-    AskToRemove("cmdCancel");
-    Press(Window(), "cmdRemoveToken");
-    AskToRemove();
-    ExpectConfirmation(wxID_CANCEL);
-    Press(Window(), "cmdRemoveToken");
+    const std::u16string kept = u"[CV_TXT-HELLOS]\t1\r\n\r\nxx[CV_TXT-HELLO]\t2\r\n";
+    const std::string language = Utf16Bytes(u"\uFEFF[CV_TXT-HELLO]\t3\r\n" + kept);
+    // Of these only the first two are files of this base's languages.
+    const char* files[] = {kFrenchMap, "webmail-DEFAULT.net-tokens-.map",
+                           "WebMail-default-tokens-fr.map",
+                           "WebMail-default.net-tokens-fr.map.old"};
+    for (const char* file : files)
+        PutFile(file, language);
+    Pick(Window(), "lstLanguages", u"French");
+    RemoveToken("cmdCancel");
+    RemoveToken("cmdAction", wxID_CANCEL);
     EXPECT_EQ(FileBytes(kReferenceMap), reference);
-
-    AskToRemove();
-    ExpectConfirmation(wxID_NO);
-    Press(Window(), "cmdRemoveToken");
-    EXPECT_EQ(Token(), u"[CV_TXT-BYE]: Goodbye");
-    EXPECT_EQ(FileBytes(kFrenchMap), french);
+    RemoveToken("cmdAction", wxID_NO);
+    EXPECT_EQ(Entries("lbxTokens"), List({kBye, kNew}));
+    EXPECT_EQ(FileBytes(kFrenchMap), language);
 
     PutFile(kReferenceMap, reference);
     Pick(Window(), "lstLanguages", u"German");
-    AskToRemove();
-    ExpectConfirmation(wxID_YES);
-    Press(Window(), "cmdRemoveToken");
-    EXPECT_EQ(FileBytes(kFrenchMap), Utf16Bytes(u"[CV_TXT-BYE]\tAu revoir\r\n"));
-    EXPECT_EQ(Entries("lbxTokens").size(), 2U);
+    RemoveToken("cmdAction", wxID_YES);
+    EXPECT_EQ(Entries("lbxTokens"), List({kBye, kNew}));
+    for (const char* file : files) {
+        const bool isOfBase = file == files[0] || file == files[1];
+        EXPECT_EQ(FileBytes(file), isOfBase ? Utf16Bytes(kept) : language) << file;
+    }
+    EXPECT_EQ(FileBytes(std::string(kReferenceMap) + "D"), "(no file)");
 }
 
 TEST_F(Dialogs, TheDefaultTranslationComesFromTheDistributionServer) {
@@ -135,15 +128,15 @@ TEST_F(Dialogs, TheDefaultTranslationComesFromTheDistributionServer) {
     PutFile(folder / kFrenchMap, published);
     Pick(Window(ConfiguredServices()), "lstLanguages", u"French");
     for (const int answer : {wxID_NO, wxID_YES}) {
-        EXPECT_EQ(Translation(), u"Bonjour");
+        EXPECT_NE(FileBytes(kFrenchMap), published);
         script_.ExpectBox("Update Language File: WebMail[default.net]", question,
                           wxYES_NO | wxICON_QUESTION, answer);
         Choose(Window(), frmMain::mnuFetchDefault);
     }
     EXPECT_EQ(FileBytes(kFrenchMap), published);
     EXPECT_EQ(Translation(), u"Bonjour");  // nothing is reloaded until a token is clicked
-    Pick(Window(), "lbxTokens", u"[CV_TXT-BYE]: Goodbye");
-    Pick(Window(), "lbxTokens", u"[CV_TXT-HELLO]: Hello: you");
+    Pick(Window(), "lbxTokens", kBye);
+    Pick(Window(), "lbxTokens", kHello);
     EXPECT_EQ(Translation(), u"Salut");
 }
 

@@ -8,9 +8,26 @@
 
 namespace cvlang {
 
+using List = std::vector<std::u16string>;
+
+inline constexpr long kInformation = wxOK | wxICON_INFORMATION;
+inline constexpr long kCritical = wxOK | wxICON_ERROR;
+
+inline const std::u16string kHello = u"[CV_TXT-HELLO]: Hello: you";
+inline const std::u16string kBye = u"[CV_TXT-BYE]: Goodbye";
+inline const std::u16string kNew = u"[CV_TXT-NEW]";
+
 inline constexpr const char* kReferenceMap = "WebMail-default.net-tokens.map";
 inline constexpr const char* kFrenchMap = "WebMail-default.net-tokens-fr.map";
 inline constexpr const char* kLanguageList = "WebMail-default.net-lang.txt";
+
+/// No box comes while patience is asked for.
+struct WatchedBoxes : MessageBoxes {
+    MessageAnswer Show(const UserMessage& message) override {
+        EXPECT_EQ(wxWindow::FindWindowByName("frmWait"), nullptr);
+        return MessageBoxes::Show(message);
+    }
+};
 
 class MainWindow : public testing::Test {
   protected:
@@ -19,6 +36,7 @@ class MainWindow : public testing::Test {
         PutFile("NETWebMail/zephra/x", "");
         PutFile(kReferenceMap, Utf16Bytes(u"\t\t\t[CV_TXT-HELLO]\tHello: you\r\n"
                                           u"\t\t\t[CV_TXT-BYE]\tGoodbye\r\n"
+                                          u"\t\t\tCV_OTHER\tno token\r\n\r\n"
                                           u"\t\t\t[CV_TXT-NEW]\t\r\n"));
         PutFile(kFrenchMap, Utf16Bytes(u"[CV_TXT-HELLO]\tBonjour\r\n[CV_TXT-BYE]\tAu revoir\r\n"));
     }
@@ -41,12 +59,10 @@ class MainWindow : public testing::Test {
 
     std::u16string Translation() { return Find<TextBox>(Window(), "txtTranslation").Text(); }
     std::u16string Token() { return Find<SelectionList>(Window(), "lbxTokens").SelectedText(); }
-    const std::vector<std::u16string>& Entries(const char* list) {
-        return Find<SelectionList>(Window(), list).Entries();
-    }
+    const List& Entries(const char* list) { return Find<SelectionList>(Window(), list).Entries(); }
 
     FakeProgram fake_;
-    MessageBoxes boxes_;
+    WatchedBoxes boxes_;
     Program program_{fake_.config, fake_.logs, boxes_};
     WindowScript script_;
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "generation/PageTranslator.h"
 #include "support/FakeProgram.h"
 
 namespace cvlang {
@@ -10,15 +11,16 @@ namespace {
 namespace fs = std::filesystem;
 
 const std::string kMark = "\xEF\xBB\xBF";
+const std::string kSource = "\r\n[CV_TXT-A] [CV_TXT-NONE]\r\n";
+const std::string kTranslated = kMark + "valeur [CV_TXT-NONE]";
 
 /// WebMail default.net with a French map file; the reference folder is the test's to fill.
 class ContentTree : public testing::Test {
   protected:
     ContentTree() {
-        PutFile(fake.folder / "WebMail-default.net-lang.txt",
-                "French\tfr\r\nEmpty\t\r\nOwn\ten\r\n");
-        PutFile(fake.folder / "WebMail-default.net-tokens-fr.map",
-                Utf16Bytes(u"[CV_TXT-A]\tvaleur\r\n[CV_TXT-B]\tb\r\n"));
+        PutFile("WebMail-default.net-lang.txt", "French\tfr\r\nZulu\tzu\r\n");
+        PutFile("WebMail-default.net-tokens-fr.map",
+                Utf16Bytes(u"[CV_TXT-A]\tvaleur\r\n[CV_TXT-B]\tl'\u00E9t\u00E9\r\n"));
     }
 
     bool Apply(std::u16string_view language = u"French") {
@@ -26,112 +28,149 @@ class ContentTree : public testing::Test {
     }
 
     FakeProgram fake;
-    fs::path lang = fake.folder / "NETWebMail" / "default" / "lang";
+    const fs::path lang = fake.folder / "NETWebMail" / "default" / "lang";
+    const fs::path sys = lang / "SYS";
+    const fs::path fr = lang / "fr";
 };
 
 TEST_F(ContentTree, PagesOfAllKindsAreTranslatedAtAnyDepthAndOtherFilesCopied) {
-    const std::string source = "\r\n[CV_TXT-A] [CV_TXT-NONE]\r\n";
-    const std::string translated = kMark + "valeur [CV_TXT-NONE]";
-    const char* pages[] = {"a.asp", "Default.aspx",  "c.ASCX", "s.Js",
-                           "m.xml", "in/deep/d.asp", ".asp"};
-    const char* others[] = {"web.config", "x.asp.bak", "logo.gif", "in/aspx", "in/x.jsp"};
-    for (const char* name : pages)
-        PutFile(lang / "SYS" / name, source);
-    for (const char* name : others)
-        PutFile(lang / "SYS" / name, source);
-    for (const char* name : {"a.asp", "in/deep/d.asp", "logo.gif"})
-        SetReadOnly(lang / "SYS" / name, true);
+    // The last name is that of the file which is there already, if it is spelt otherwise.
+    const std::tuple<fs::path, std::string, std::string, fs::path> files[] = {
+        {"a.asp", kSource, kTranslated, "A.Asp"},
+        {"Default.aspx", kMark + "\xE9[CV_TXT-A]", kMark + "\xE9valeur", ""},
+        {"c.ASCX", "[CV_TXT-B]", kMark + "l'\xC3\xA9t\xC3\xA9", ""},
+        {"s.Js", "[CV_TXT-B]", kMark + "l\\'\xC3\xA9t\xC3\xA9", ""},
+        {"m.xml", "\r\n", kMark, ""},
+        {"in/deep/d.asp", kSource, kTranslated, "In/deep/D.asp"},
+        {".asp", kSource, kTranslated, ""},
+        {"web.config", kSource, kSource, ""},
+        {"x.asp.bak", kSource, kSource, ""},
+        {"logo.gif", kSource, kSource, "LOGO.gif"},
+        {"large", std::string(131072, 'x'), std::string(131072, 'x'), ""},
+        {"larger", std::string(200001, 'x'), std::string(200001, 'x'), "Larger"},
+        {"in/aspx", kSource, kSource, "In/aspx"},
+        {"in/x.jsp", kSource, kSource, "In/x.jsp"}};
+    for (const auto& [name, source, result, existing] : files) {
+        PutFile(sys / name, source);
+        SetReadOnly(sys / name, true);
+        if (!existing.empty())
+            PutFile(fr / existing, std::string(300000, 's'));
+    }
     for (int run = 0; run < 2; ++run) {
         EXPECT_TRUE(Apply());
-        for (const char* name : pages) {
-            EXPECT_EQ(FileBytes(lang / "fr" / name), translated) << name;
-            EXPECT_EQ(FileBytes(lang / "SYS" / name), source) << name;
-            EXPECT_FALSE(IsReadOnly(lang / "fr" / name)) << name;
+        for (const auto& [name, source, result, existing] : files) {
+            const fs::path written = fr / (existing.empty() ? name : existing);
+            EXPECT_EQ(FileBytes(written), result) << name;
+            EXPECT_EQ(FileBytes(sys / name), source) << name;
+            EXPECT_EQ(IsReadOnly(written), name.has_parent_path() && result == kSource) << name;
         }
-        for (const char* name : others)
-            EXPECT_EQ(FileBytes(lang / "fr" / name), source) << name;
-        EXPECT_FALSE(IsReadOnly(lang / "fr" / "logo.gif"));
     }
     EXPECT_TRUE(fake.messages.shown.empty());
     EXPECT_EQ(fake.ErrorLog(), "(no file)");
 }
 
-TEST_F(ContentTree, StalePagesStayAndAreTranslatedTooWithTheMapFileOfTheNamesInUse) {
+TEST_F(ContentTree, StalePagesAreTranslatedTooWithTheMapFileOfTheNamesInUse) {
     fake.registry.numbers.clear();
     PutFile(lang / "EN" / "a.asp", "\n[CV_TXT-A]\n");
-    PutFile(lang / "fr" / "stale.asp", "[CV_TXT-A]");
-    PutFile(lang / "fr" / "stale.txt", "[CV_TXT-A]");
+    PutFile(fr / "stale.asp", "[CV_TXT-A]");
+    PutFile(fr / "stale.txt", "[CV_TXT-A]");
     for (const std::string text : {"[CV_TXT-A]", "old"}) {  // without a map file, and with one
         Apply();
-        EXPECT_EQ(FileBytes(lang / "fr" / "a.asp"), kMark + text);
-        EXPECT_EQ(FileBytes(lang / "fr" / "stale.asp"), kMark + text);
-        EXPECT_EQ(FileBytes(lang / "fr" / "stale.txt"), "[CV_TXT-A]");
-        PutFile(fake.folder / "WebMail-default.net-tokens.fr", Utf16Bytes(u"[CV_TXT-A]\told"));
+        EXPECT_EQ(FileBytes(fr / "a.asp"), kMark + text);
+        EXPECT_EQ(FileBytes(fr / "stale.asp"), kMark + text);
+        EXPECT_EQ(FileBytes(fr / "stale.txt"), "[CV_TXT-A]");
+        PutFile("WebMail-default.net-tokens.fr", Utf16Bytes(u"[CV_TXT-A]\told"));
     }
 }
 
 TEST_F(ContentTree, AReferenceFolderInsideTheTreeIsMirroredAndNothingIsTranslatedTwice) {
-    PutFile(fake.folder / "WebMail-default.net-lang.txt", "Zulu\tzu");
-    PutFile(lang / "SYS" / "in" / "SYS" / "a.asp", "a\r\n\r\n");
-    fs::create_directories(lang / "SYS" / "in" / "ZU");
+    const std::string page = "a\r\n\r\n";
+    for (const char* name : {"in/SYS/a.asp", "in/SYS/x/SYS/b.asp", "unmirrored/SYS/c.asp"})
+        PutFile(sys / name, page);
+    fs::create_directories(sys / "in" / "ZU" / "x" / "ZU");
     Apply(u"Zulu");
-    // Translated twice, the page would lose its second line's end too.
+    // Translated twice, the pages would lose their second line's end too.
     EXPECT_EQ(FileBytes(lang / "zu" / "in" / "ZU" / "a.asp"), kMark + "a\r\n");
-    EXPECT_EQ(FileBytes(lang / "zu" / "in" / "SYS" / "a.asp"), "a\r\n\r\n");
+    EXPECT_EQ(FileBytes(lang / "zu" / "in" / "ZU" / "x" / "ZU" / "b.asp"), kMark + "a\r\n");
+    EXPECT_EQ(FileBytes(lang / "zu" / "in" / "SYS" / "a.asp"), page);
+    EXPECT_FALSE(fs::exists(lang / "zu" / "unmirrored" / "ZU"));
 }
 
 TEST_F(ContentTree, WithoutAnAbbreviationTheRootItselfIsTheLanguagesFolder) {
-    PutFile(fake.folder / "WebMail-default.net-tokens-.map", Utf16Bytes(u"[CV_TXT-A]\tno name"));
-    PutFile(lang / "SYS" / "a.asp", "[CV_TXT-A]");
+    PutFile("WebMail-default.net-tokens-.map", Utf16Bytes(u"[CV_TXT-A]\tno name"));
+    PutFile(sys / "a.asp", "[CV_TXT-A]");
     EXPECT_TRUE(Apply(u"Klingon"));
     EXPECT_EQ(FileBytes(lang / "a.asp"), kMark + "no name");
 }
 
 TEST_F(ContentTree, TheQuestionIsAskedOnlyOfAUserWhoHasPagesToLose) {
+    PutFile(sys / "a.asp", "fresh");
     const auto prepare = [this](int noPrompt, MessageAnswer answer) {
-        fake.messages.answers = {answer};
-        fake.messages.shown.clear();
-        return PrepareLanguageFolder(fake.program, u"WebMail", u"default.net", u"French", noPrompt);
+        fake.messages.answer = answer;
+        const bool goesOn =
+            PrepareLanguageFolder(fake.program, u"WebMail", u"default.net", u"French", noPrompt);
+        EXPECT_EQ(FileBytes(fr / "a.asp"), goesOn ? "fresh" : "own");
+        return goesOn;
     };
-    PutFile(lang / "SYS" / "a.asp", "fresh");
     EXPECT_TRUE(prepare(0, MessageAnswer::No));
+    PutFile(fr / "a.asp", "own");
     EXPECT_TRUE(prepare(1, MessageAnswer::No));
     EXPECT_TRUE(fake.messages.shown.empty());
-    PutFile(lang / "fr" / "a.asp", "own");
+    PutFile(fr / "a.asp", "own");
     EXPECT_FALSE(prepare(0, MessageAnswer::No));
-    EXPECT_EQ(FileBytes(lang / "fr" / "a.asp"), "own");
-    ASSERT_EQ(fake.messages.shown.size(), 1U);
-    const UserMessage& question = fake.messages.shown[0];
-    EXPECT_TRUE(question.buttons == MessageButtons::YesNo &&
-                question.icon == MessageIcon::Question);
-    EXPECT_EQ(question.text,
+    EXPECT_EQ(fake.messages.shown.at(0).text,
               u"Web Content for this Language already exists, do you wish to overwrite it?");
     EXPECT_TRUE(prepare(0, MessageAnswer::Yes));
-    EXPECT_EQ(FileBytes(lang / "fr" / "a.asp"), "fresh");
     fake.program.unattended = true;
     EXPECT_TRUE(prepare(0, MessageAnswer::No));
+    EXPECT_EQ(fake.messages.shown.size(), 2U);
 }
 
-TEST_F(ContentTree, DebugModeTracesEveryTokenWithItsCount) {
+TEST_F(ContentTree, DebugModeTracesEveryTokenWithItsCountOverAllRuns) {
     fake.registry.strings[u"DebugMode"] = u"True";
-    fs::create_directory(fake.folder / "trace");
-    PutFile(lang / "SYS" / "a.asp", "[CV_TXT-A][CV_TXT-A]\r\n[CV_TXT-A]");
+    fake.program.tokenUseCounts = {0, 5, 7, 9};
+    fs::create_directory("trace");
+    PutFile(sys / "a.asp", "[CV_TXT-A][CV_TXT-A]\r\n[CV_TXT-A]");
     Apply();
-    const std::string trace = FileBytes(fake.folder / "trace" / "CVTrans.log");
-    EXPECT_NE(trace.find("\t[CV_TXT-A]\t2\r\n"), std::string::npos);
-    EXPECT_NE(trace.find("\t[CV_TXT-B]\t0\r\n"), std::string::npos);
+    const std::string trace = FileBytes("trace/CVTrans.log");
+    EXPECT_NE(trace.find("\t[CV_TXT-A]\t7\r\n"), std::string::npos);
+    EXPECT_NE(trace.find("\t[CV_TXT-B]\t7\r\n"), std::string::npos);
     EXPECT_EQ(std::count(trace.begin(), trace.end(), '\n'), 2);
+    EXPECT_EQ(fake.program.tokenUseCounts.size(), 4U);
 }
 
-TEST_F(ContentTree, LinksToFoldersAreNotWalked) {
-    PutFile(fake.folder / "outside" / "a.asp", "[CV_TXT-A]");
-    fs::create_directories(lang / "fr");
+TEST_F(ContentTree, LinksAreFollowedInTheReferenceFolderUnlessTheyLeadBackAndNeverElsewhere) {
+    const fs::path outside = fake.folder / "outside";
+    PutFile(sys / "shared" / "c.asp", "fresh");
+    PutFile(fake.folder / "elsewhere" / "b.asp", "[CV_TXT-A]");
+    PutFile(outside / "c.asp", "[CV_TXT-A]");
+    fs::create_directories(fr);
     std::error_code failed;
-    fs::create_directory_symlink(fake.folder / "outside", lang / "fr" / "linked", failed);
+    fs::create_directory_symlink(fake.folder / "elsewhere", sys / "linked", failed);
+    fs::create_directory_symlink(fake.folder.Path(), sys / "back", failed);
+    fs::create_directory_symlink(sys, fake.folder / "elsewhere" / "round", failed);
+    fs::create_directory_symlink(outside, fr / "shared", failed);
     if (failed)
         GTEST_SKIP() << "this system makes no links: " << failed.message();
     Apply();
-    EXPECT_EQ(FileBytes(fake.folder / "outside" / "a.asp"), "[CV_TXT-A]");
+    EXPECT_EQ(FileBytes(fr / "linked" / "b.asp"), kMark + "valeur");
+    EXPECT_FALSE(fs::exists(fr / "back"));
+    EXPECT_FALSE(fs::exists(fr / "linked" / "round"));
+    EXPECT_EQ(FileBytes(outside / "c.asp"), "[CV_TXT-A]");
+}
+
+TEST_F(ContentTree, OnlyAScriptFileIsScriptThroughoutAndAMissingPageIsLogged) {
+    PageTranslator pages(fake.program, u"French", u"default.net", u"WebMail", {u"", u"[CV_TXT-A]"},
+                         {u"", u"'"});
+    for (const auto& [name, aware, result] :
+         {std::tuple{"X.Js", true, "\\'"}, {"x.js", false, "'"}, {"xjs", true, "'"}}) {
+        PutFile(name, "[CV_TXT-A]");
+        pages.TranslateFile(fake.folder / name, aware);
+        EXPECT_EQ(FileBytes(name), kMark + result) << name;
+    }
+    pages.TranslateFile(fake.folder / "none.asp", true);
+    EXPECT_TRUE(fake.ErrorLog().ends_with(
+        "\tError - could not find asp source: " + (fake.folder / "none.asp").string() + "\r\n"));
 }
 
 }  // namespace

@@ -2,19 +2,79 @@
 // compared with it.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
 
-namespace cvlang {
+#include "generation/ScriptTracker.h"
+#include "platform/Ansi.h"
+#include "platform/Utf8.h"
 
-struct PlainPage {
+namespace cvlang::plain {
+
+struct Page {
     std::string text;
     std::vector<std::int32_t> useCounts;
 };
 
-PlainPage SubstitutePlainly(std::string page, const std::vector<std::u16string>& tokens,
-                            const std::vector<std::u16string>& values, bool scriptFile,
-                            bool scriptAware);
+inline std::string Encode(const std::u16string& value) {
+    std::string bytes;
+    for (const char16_t c : value)
+        bytes += Utf16ToUtf8({&c, 1});
+    return bytes;
+}
 
-}  // namespace cvlang
+inline void ReplaceAll(std::string& text, const std::string& what, const std::string& by) {
+    for (std::size_t i = 0; (i = text.find(what, i)) != text.npos; i += by.size())
+        text.replace(i, what.size(), by);
+}
+
+inline std::vector<std::string> SplitLines(std::string page) {
+    ReplaceAll(page, "\r\n", "\n");
+    ReplaceAll(page, "\r", "\n");
+    std::vector<std::string> lines;
+    while (!page.empty()) {
+        const std::size_t end = std::min(page.find('\n'), page.size());
+        lines.push_back(page.substr(0, end));
+        page.erase(0, end + 1);
+    }
+    return lines;
+}
+
+inline bool Holds(const std::string& text, const std::string& what) {
+    return text.find(what) != text.npos;
+}
+
+inline bool HoldsTag(std::string line, const std::string& upperTag) {
+    for (char& c : line)
+        c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+    return Holds(line, upperTag);
+}
+
+inline Page Substitute(const std::string& page, const std::vector<std::u16string>& tokens,
+                       const std::vector<std::u16string>& values, ScriptMode mode) {
+    Page result{{}, std::vector<std::int32_t>(tokens.size())};
+    bool inScript = mode == ScriptMode::Always;
+    for (std::string& line : SplitLines(page)) {
+        if (mode == ScriptMode::Tracked)
+            inScript = !HoldsTag(line, "</SCRIPT>") && (inScript || HoldsTag(line, "<SCRIPT "));
+        for (std::size_t i = 1; i < tokens.size() && Holds(line, "[CV_TXT-"); ++i) {
+            const auto token = Utf16ToAnsiExactly(tokens[i]);
+            if (!token || !Holds(line, *token))
+                continue;
+            std::string value = Encode(values[i]);
+            if (inScript) {
+                ReplaceAll(value, "'", "\\'");
+                ReplaceAll(value, "\"", "\\\"");
+            }
+            if (!token->empty())
+                ReplaceAll(line, *token, value);
+            ++result.useCounts[i];
+        }
+        result.text += result.text.empty() ? line : "\r\n" + line;
+    }
+    return result;
+}
+
+}  // namespace cvlang::plain

@@ -1,8 +1,12 @@
 #include <gtest/gtest.h>
 
 #include "mail/AddressList.h"
+#include "mail/Base64.h"
+#include "mail/HtmlToText.h"
 #include "mail/MailDate.h"
+#include "mail/MailError.h"
 #include "mail/MimeNames.h"
+#include "support/Files.h"
 
 namespace cvlang {
 namespace {
@@ -29,13 +33,15 @@ TEST(MailDate, DaysAndMonthsHaveTheirNames) {
     EXPECT_EQ(names, "SunJanMonFebTueMarWedAprThuMayFriJunSatJulSunAugMonSepTueOctWedNovThuDec");
 }
 
-TEST(MimeNames, AreMadeOfAFreshGuid) {
+TEST(MimeNames, AreMadeOfAFreshGuidWithItsShortBytes) {
     const auto guid = [] {
-        return std::optional(Guid{0xABC, 0x1, 0xFFFF, {0, 9, 0x10, 0x20, 0x30, 0x40, 0x50, 0xAB}});
+        return std::optional(Guid{0xABC, 1, 0xFFFF, {0, 9, 0x0A, 0x0F, 0x10, 0x1E, 0xA0, 0xFF}});
     };
-    EXPECT_EQ(NewMIMEBoundary(guid), "--=_NextPart_000_000B_00000ABC.0001FFFF");
     const auto none = [] { return std::optional<Guid>(); };
+    EXPECT_EQ(NewMIMEBoundary(guid), "--=_NextPart_000_000B_00000ABC.0001FFFF");
     EXPECT_EQ(NewMIMEBoundary(none), "--=_NextPart_000_000B_01C0D501.82E05F40");
+    EXPECT_EQ(NewMessageFileName(guid), "00000ABC0001FFFF0009AF101EA0FF.MAI");
+    EXPECT_EQ(NewMessageFileName(none), "00000000.MAI");
 }
 
 TEST(AddressList, RepeatedAddressesAreDroppedAndSeveralListsBecomeOne) {
@@ -55,6 +61,53 @@ TEST(AddressList, RepeatedAddressesAreDroppedAndSeveralListsBecomeOne) {
     EXPECT_EQ(MergedAddresses({"a@x;", ""}), (Addresses{"a@x"}));
     EXPECT_EQ(GetAddressDomain("a@b@c"), "b@c");
     EXPECT_EQ(GetAddressDomain("a"), "(unknown)");
+}
+
+TEST(Base64, EveryLengthAndEveryByteGoesThereAndBackInLines) {
+    const std::string alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    EXPECT_EQ(Base64::EncodeByteArr(Base64::DecodeToByteArr(alphabet)), alphabet);
+    std::string bytes;
+    for (std::size_t size = 0; size < 400; ++size, bytes += static_cast<char>(size * 7)) {
+        const std::string text = Base64::EncodeString(bytes);
+        ASSERT_EQ(Base64::DecodeToByteArr(text), bytes);
+        ASSERT_EQ(text.size(), Base64::EncodedSize(size));
+    }
+    // A full line is followed by a line break unless it is the only one.
+    const std::string line(76, 'A');
+    const std::pair<std::size_t, std::string> cases[] = {
+        {57, line}, {58, line + "\r\nAA=="}, {114, line + "\r\n" + line + "\r\n"}};
+    for (const auto& [size, text] : cases)
+        EXPECT_EQ(Base64::EncodeString(std::string(size, '\0')), text);
+    // Line breaks and padding are skipped, and foreign characters are zero bits.
+    EXPECT_EQ(Base64::DecodeToString("Z=m\r\n9v\r\nYg=="), "foob");
+    EXPECT_EQ(Base64::DecodeToString("\nm\xE9v"), Base64::DecodeToString("AmAv"));
+}
+
+TEST(Base64, FilesAreReadAndNeverOverwritten) {
+    const TemporaryFolder folder;
+    ASSERT_TRUE(Base64::DecodeToFile("DQr/", folder / "new"));
+    EXPECT_THROW(Base64::DecodeToFile("Zm9v", folder / "new"), MailError);
+    EXPECT_EQ(FileBytes(folder / "new"), "\r\n\xFF");
+    EXPECT_EQ(Base64::EncodeFile(folder / "new"), "DQr/");
+    EXPECT_EQ(Base64::EncodeFile(folder / "none"), "");
+}
+
+TEST(HtmlToText, MarkupBecomesPlainText) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"a\r\nb<BR>c<br/>d", "ab\r\ncd"},
+        {"a&NBSP;b&amp;", "a b&amp;"},
+        {"x<Title>A <b></TITLE>y", "xy"},
+        {"x<Title>A</TITLE>y<title>a</title>z", "xyz"},
+        {"1<style t>b{}</STYLE>2<STYLE T>B{}</style>3<style>c</style>", "123c"},
+        {"</style>1<style>a", "1a"},
+        {"<title><title><title>x", "x"},
+        {"1<script>if (a<b)</script>2", "12"},
+        {"<tr><td>a<TD x>b</td><div>c<li>d", "\r\na\r\nb\r\nc\r\nd"},
+        {"<a <b>c>d < e", "c>d < e"},
+        {"> <b>1<a <B>c>2", "> 12"}};
+    for (const auto& [html, text] : cases)
+        EXPECT_EQ(HTMLToText(html, LineBreaks::Kept), text) << html;
+    EXPECT_EQ(HTMLToText("a<br>b<div>c", LineBreaks::AsMarkup), "a<BR>b<BR>c");
 }
 
 }  // namespace

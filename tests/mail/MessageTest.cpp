@@ -11,26 +11,23 @@ namespace cvlang {
 namespace {
 
 // Texts are written with single line breaks.
-const std::string kOuter = "=_NextPart_000_000B_00000001.00AA00BB";
-const std::string kInner = "=_NextPart_000_000B_00000002.00AA00BB";
+const std::string kOuter = "--=_NextPart_000_000B_00000001.00AA00BB";
+const std::string kInner = "--=_NextPart_000_000B_00000002.00AA00BB";
+const std::string kTextPart =
+    "Content-type: text/plain; charset=\"US-ASCII\"\nContent-transfer-encoding: 7bit\n\n";
 const std::string kMixed =
-    "MIME-Version: 1.0\nContent-Type: multipart/mixed;\n\tboundary=\"--" + kOuter + "\"\n\n";
+    "MIME-Version: 1.0\nContent-Type: multipart/mixed;\n\tboundary=\"" + kOuter + "\"\n\n";
 
-std::string Part(const std::string& boundary, const std::string& subtype, const std::string& body) {
-    return "----" + boundary + "\nContent-type: text/" + subtype +
-           "; charset=\"US-ASCII\"\nContent-transfer-encoding: 7bit\n\n" + body;
-}
-
-std::string Alternatives(const std::string& boundary) {
-    return Part(boundary, "plain", "1\n2\n\n") + Part(boundary, "html", "<p>1<br>2\n\n") + "----" +
-           boundary + "--\n";
+std::string Alternatives(const std::string& boundary, const std::string& plain) {
+    return "--" + boundary + "\n" + kTextPart + plain + "\n\n--" + boundary + "\n" +
+           Replaced(kTextPart, "plain", "html") + "<p>1<br>2\n\n--" + boundary + "--\n";
 }
 
 std::string Attached(const std::string& parameter, const std::string& name,
                      const std::string& text) {
-    return "\n\n----" + kOuter + "\nContent-Type: application/octet-stream; " + parameter + "=\"" +
+    return "\n\n--" + kOuter + "\nContent-Type: application/octet-stream; " + parameter + "=\"" +
            name + "\"\nContent-Transfer-Encoding: base64\nContent-Disposition: attachment;\n" +
-           "\tfilename=\"" + name + "\"\n\n" + text + "\n\n----" + kOuter + "--\n";
+           "\tfilename=\"" + name + "\"\n\n" + text;
 }
 
 /// The message behind the headers that every one has.
@@ -66,30 +63,28 @@ TEST(Message, HeadersArePairedFoldedAndCompleted) {
 }
 
 TEST(Message, EveryContentHasItsLayout) {
-    const std::string hello = kMixed + Part(kOuter, "plain", "Hello");
-    const struct {
-        std::string plain, single, attachment, text;
-    } cases[] = {{"", "", "", Replaced(kMixed, "mixed", "alternative") + Alternatives(kOuter)},
-                 {"", "any", "a.map",
-                  kMixed + "----" + kOuter +
-                      "\nContent-type: multipart/alternative; boundary=\"--" + kInner + "\"\n\n" +
-                      Alternatives(kInner) + "\n" + Attached("name", "a.map", "Zm9vYmFy")},
-                 {"given", "", "",
-                  Replaced(Replaced(kMixed, "mixed", "alternative") + Alternatives(kOuter), "1\n2",
-                           "given")},
-                 {"text", "", "none", hello + Attached("name", "given", "")},
-                 {"text", "a.map", "", hello + Attached("Name", "shown", "Zm9vYmFy")}};
-    for (const auto& [plain, single, attachment, text] : cases) {
+    const std::string end = "\n\n--" + kOuter + "--\n";
+    const std::tuple<bool, std::string, std::string, std::string> cases[] = {
+        {true, "", "", Replaced(kMixed, "mixed", "alternative") + Alternatives(kOuter, "1\n2")},
+        {true, "given", "none",
+         kMixed + "--" + kOuter + "\nContent-type: multipart/alternative; boundary=\"" + kInner +
+             "\"\n\n" + Alternatives(kInner, "given") + "\n" +
+             Attached("name", "a.map", "Zm9vYmFy") + Attached("name", "shown", "") + end},
+        {false, "", "a.map",
+         kMixed + "--" + kOuter + "\n" + kTextPart + "<p>1<br>2" +
+             Attached("Name", "shown", "Zm9vYmFy") + end}};
+    for (const auto& [html, plain, file, text] : cases) {
         MailFixture mail;
-        PutFile(mail.fake.folder / "a.map", "foobar");
-        mail.message.ContentType = plain == "text" ? "" : "text/html;";
-        mail.message.MessageBody = plain == "text" ? "Hello" : "<p>1<br>2";
+        PutFile("a.map", "foobar");
+        mail.message.ContentType = html ? "text/html;" : "";
+        mail.message.MessageBody = "<p>1<br>2";
         mail.message.MessageBodyPlain = plain;
-        mail.message.AttachmentFileName = single;
+        mail.message.AttachmentFileName = file;
         mail.message.Attachmentname = "shown";
-        const auto folder = Utf16ToAnsi(TextFromPath(mail.fake.folder.Path()) + kSeparator);
-        if (!attachment.empty())
-            mail.message.AddAttachment(folder + attachment, plain == "text" ? "given" : "");
+        if (file == "none") {
+            mail.message.AddAttachment((mail.fake.folder / "a.map").string(), "");
+            mail.message.AddAttachment(file, "shown");
+        }
         EXPECT_EQ(BehindCommonHeaders(mail.message), text);
     }
 }
@@ -106,24 +101,24 @@ TEST(Message, WithoutAnyFileInTheCurrentFolderAttachmentsAreAnnounced) {
 
 TEST(Message, SetDefaultEmptiesAllButTheFlagsAndWhatIsMissingIsTold) {
     MailFixture mail;
-    mail.message.AddAttachment("a", "b");
-    mail.message.AddHeader("X: y");
-    mail.message.AuthenticationMode = 1;
-    mail.message.NoEventLog = true;
-    mail.message.SetDefault();
-    EXPECT_TRUE(mail.message.ServerPort == 25 && mail.message.AuthenticationMode == 0 &&
-                mail.message.NoEventLog);
-    const std::string text = mail.message.ComposeText();
+    Message& message = mail.message;
+    message.AddAttachment("a", "b");
+    message.AddHeader("X: y");
+    message.AuthenticationMode = 1;
+    message.NoEventLog = true;
+    message.SetDefault();
+    EXPECT_TRUE(message.ServerPort == 25 && message.AuthenticationMode == 0 && message.NoEventLog);
+    const std::string text = message.ComposeText();
     EXPECT_TRUE(text.starts_with("From: <>\r\nTo: \r\nSubject: \r\n"));
     EXPECT_TRUE(text.ends_with(".MAI@" + Utf16ToAnsi(GetLocalComputerName()) + ">\r\n\r\n"));
     mail.fake.registry.strings[u"SMTPLocalDomainName"] = u"configured";
-    EXPECT_TRUE(mail.message.ComposeText().ends_with(".MAI@configured>\r\n\r\n"));
-    EXPECT_THROW(mail.message.AddAttachment("  ", "name"), MailError);
-    EXPECT_EQ(mail.message.ErrorString, "You must specify a filename for the attachment.");
+    EXPECT_TRUE(message.ComposeText().ends_with(".MAI@configured>\r\n\r\n"));
+    EXPECT_THROW(message.AddAttachment("  ", "name"), MailError);
+    EXPECT_EQ(message.ErrorString, "You must specify a filename for the attachment.");
     for (const char* missing : {"From", "To"}) {
-        EXPECT_EQ(mail.message.SendMessage(), 0);
-        EXPECT_EQ(mail.message.ErrorString, std::string("No ") + missing + ": address given");
-        mail.message.MailFrom = "f@here";
+        EXPECT_EQ(message.SendMessage(), 0);
+        EXPECT_EQ(message.ErrorString, std::string("No ") + missing + ": address given");
+        message.MailFrom = "f@here";
     }
 }
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""A mail server for one message: receive_mail.py FOLDER [open].
+"""A mail server for one message: receive_mail.py FOLDER.
 
-Wants the login user and secret, unless it is open. Prints its port, then who the message is from and to, some headers
+Wants the login user and secret. Prints its port, then who the message is from and to, some headers
 and the parts; of an attachment whether it is the file of its name in the folder, byte by byte."""
 import asyncio
 import email
@@ -32,7 +32,7 @@ async def main(folder):
     Receiver.received = loop.create_future()
     server = await loop.create_server(
         lambda: SMTP(Receiver(), hostname="test", data_size_limit=None, loop=loop, authenticator=check,
-                     auth_required="open" not in sys.argv, auth_require_tls=False), "127.0.0.1", 0)
+                     auth_required=True, auth_require_tls=False), "127.0.0.1", 0)
     print(server.sockets[0].getsockname()[1], flush=True)
     envelope = await Receiver.received
     await asyncio.sleep(0.2)  # for the farewell

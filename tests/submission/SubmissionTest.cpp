@@ -8,8 +8,6 @@ namespace cvlang {
 namespace {
 
 TEST(Submission, TheMessageTellsWhatIsAttached) {
-    EXPECT_EQ(SubmissionSubject(u"WebMail", u"default.net", u"French"),
-              u"[Language Token File Submission]: WebMail - default.net (French)");
     EXPECT_EQ(SubmissionBody(u"WebMail", u"default.net", u"French"),
               u"Dear Support Team,\r\n\r\nI have attached the language token files for the "
               u"following: \r\n\r\nApplication: \tWebMail\r\nBase: \t\tdefault.net\r\n"
@@ -33,25 +31,17 @@ TEST(Submission, AllMapFilesOfTheBaseAreFoundByTheirExactName) {
 
 TEST(Submission, TheFirstFaultyAddressIsTold) {
     const std::u16string ask = u"Please specify a valid email address for the '";
-    const struct {
-        const char16_t *to, *from;
-        std::u16string fault;
-    } cases[] = {
+    const std::tuple<std::u16string, std::u16string, std::u16string> cases[] = {
         {u"@x", u"a@b", u""},
         {u"a@@", u" @ ", u""},
         {u"", u"", ask + u"To' field."},
         {u"a@", u"", u"Invalid recipient address. " + ask + u"To' field."},
         {u"ab", u"a@b", u"Invalid recipient address. " + ask + u"To' field."},
         {u"a@b", u"", ask + u"From' field."},
-        {u"a@b", u"a@", u"Invalid sender address. " + ask + u"From' field."},
-    };
+        {u"a@b", u"a@", u"Invalid sender address. " + ask + u"From' field."}};
     for (const auto& [to, from, text] : cases) {
         const auto fault = FaultOfAddresses(to, from);
-        ASSERT_EQ(fault.has_value(), !text.empty());
-        if (fault) {
-            EXPECT_EQ(fault->message.text, text);
-            EXPECT_EQ(fault->box == AddressBox::To, text.find(u"'To'") != text.npos);
-        }
+        EXPECT_EQ(fault ? fault->message.text : u"", text);
     }
 }
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include <map>
+#include <stdexcept>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "config/Program.h"
@@ -13,46 +13,40 @@
 
 namespace cvlang {
 
-/// Values of the product key.
-class FakeRegistry : public Registry {
-  public:
-    std::u16string ReadString(std::u16string_view key, std::u16string_view name) const override {
-        return Find(strings, key, name);
+/// The values of the product, or no registry at all.
+struct FakeRegistry : Registry {
+    std::u16string ReadString(std::u16string_view, std::u16string_view name) const override {
+        return Find(strings, name);
     }
-    std::int32_t ReadDword(std::u16string_view key, std::u16string_view name) const override {
-        return Find(numbers, key, name);
+    std::int32_t ReadDword(std::u16string_view, std::u16string_view name) const override {
+        return Find(numbers, name);
+    }
+
+    template <typename Values>
+    typename Values::mapped_type Find(const Values& values, std::u16string_view name) const {
+        if (fails)
+            throw std::runtime_error("The registry is gone");
+        const auto found = values.find(name);
+        return found == values.end() ? typename Values::mapped_type() : found->second;
     }
 
     std::map<std::u16string, std::u16string, std::less<>> strings;
     std::map<std::u16string, std::int32_t, std::less<>> numbers;
-
-  private:
-    template <typename Value>
-    static Value Find(const std::map<std::u16string, Value, std::less<>>& values,
-                      std::u16string_view key, std::u16string_view name) {
-        const auto found = values.find(name);
-        return key == u"SOFTWARE\\Corvane\\Corvane" && found != values.end() ? found->second
-                                                                             : Value();
-    }
+    bool fails = false;
 };
 
-/// Keeps what it is shown and answers from a list, then with the first button.
-class RecordingMessages : public UserMessages {
-  public:
+/// Keeps what it is shown, and gives every question the same answer.
+struct RecordingMessages : UserMessages {
     MessageAnswer Show(const UserMessage& message) override {
         shown.push_back(message);
-        if (answers.empty())
-            return message.buttons == MessageButtons::Ok ? MessageAnswer::Ok : MessageAnswer::Yes;
-        const MessageAnswer answer = answers.front();
-        answers.erase(answers.begin());
-        return answer;
+        return message.buttons == MessageButtons::Ok ? MessageAnswer::Ok : answer;
     }
 
     std::vector<UserMessage> shown;
-    std::vector<MessageAnswer> answers;
+    MessageAnswer answer = MessageAnswer::Yes;
 };
 
-/// A program whose application directory is a temporary folder, which is the current folder too.
+/// A program whose application directory is a temporary folder.
 struct FakeProgram {
     FakeProgram() {
         registry.strings[u"Application Directory"] = TextFromPath(folder.Path());
@@ -64,7 +58,6 @@ struct FakeProgram {
     std::string ErrorLog() const { return FileBytes(folder / "LangPort.log"); }
 
     TemporaryFolder folder;
-    CurrentFolder current{folder.Path()};
     FakeRegistry registry;
     Configuration config{registry};
     Logs logs{FixedClock, folder / "trace" / "CVTrans.log"};

@@ -1,6 +1,5 @@
 #include "support/Files.h"
 
-#include <atomic>
 #include <chrono>
 #include <fstream>
 #include <iterator>
@@ -10,26 +9,18 @@ namespace cvlang {
 namespace fs = std::filesystem;
 
 TemporaryFolder::TemporaryFolder() {
-    static std::atomic<int> number = 0;
     const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
-    path_ = fs::canonical(fs::temp_directory_path()) /
-            ("cvlang-" + std::to_string(now) + "-" + std::to_string(number++));
+    path_ = fs::canonical(fs::temp_directory_path()) / ("cvlang-" + std::to_string(now));
     fs::create_directories(path_);
+    fs::current_path(path_);
 }
 
 TemporaryFolder::~TemporaryFolder() {
     std::error_code ignored;
+    fs::current_path(before_, ignored);
     for (const auto& entry : fs::recursive_directory_iterator(path_, ignored))
         fs::permissions(entry.path(), fs::perms::owner_all, fs::perm_options::add, ignored);
     fs::remove_all(path_, ignored);
-}
-
-CurrentFolder::CurrentFolder(const fs::path& folder) : before_(fs::current_path()) {
-    fs::current_path(folder);
-}
-
-CurrentFolder::~CurrentFolder() {
-    fs::current_path(before_);
 }
 
 void PutFile(const fs::path& path, std::string_view bytes) {

@@ -8,7 +8,7 @@
 namespace cvlang {
 
 /// A fresh folder below the system's temporary one, removed with all that is in it when the test
-/// ends.
+/// ends. Until then it is the current folder, where the error log lies.
 class TemporaryFolder {
   public:
     TemporaryFolder();
@@ -21,18 +21,7 @@ class TemporaryFolder {
 
   private:
     std::filesystem::path path_;
-};
-
-/// Makes a folder the current one for the time of the test: the error log lies there.
-class CurrentFolder {
-  public:
-    explicit CurrentFolder(const std::filesystem::path& folder);
-    ~CurrentFolder();
-    CurrentFolder(const CurrentFolder&) = delete;
-    CurrentFolder& operator=(const CurrentFolder&) = delete;
-
-  private:
-    std::filesystem::path before_;
+    const std::filesystem::path before_ = std::filesystem::current_path();
 };
 
 /// Writes a file, creating the folders above it.

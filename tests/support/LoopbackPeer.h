@@ -1,14 +1,39 @@
-// A server on this computer that serves one client.
+// Servers on this computer.
 #pragma once
 
 #include <functional>
 #include <string>
 #include <thread>
 
-#include "support/LoopbackListener.h"
+#include "platform/Sockets.h"
 
 namespace cvlang {
 
+/// Listens on a free port.
+class LoopbackListener {
+  public:
+    LoopbackListener();
+    ~LoopbackListener();
+    LoopbackListener(const LoopbackListener&) = delete;
+    LoopbackListener& operator=(const LoopbackListener&) = delete;
+
+    int Port() const { return port_; }
+    /// kNoSocket when nobody connects within a few seconds.
+    SocketHandle Accept() const;
+
+  private:
+    SocketHandle socket_;
+    int port_ = 0;
+};
+
+/// Whether the system's libraries do all that they should. Wine's keep some resets to themselves
+/// and do not forbid caches to answer.
+extern const bool kNetworkIsComplete;
+
+/// Closes a connection as a peer that crashes does.
+void ResetConnection(SocketHandle socket);
+
+/// Serves one client.
 class LoopbackPeer {
   public:
     /// What is served runs in a thread of its own, once the client is there.
@@ -49,6 +74,19 @@ class LoopbackPeer {
     const LoopbackListener listener_;
     std::string received_;
     std::thread thread_;
+};
+
+/// A web server: the connection ends with the answer, as a server's that is asked in HTTP 1.0.
+struct WebPeer : LoopbackPeer {
+    /// The answer is given to a request with this body.
+    explicit WebPeer(const std::string& answer, const std::string& body = "")
+        : LoopbackPeer([answer, body](LoopbackPeer& peer) {
+              peer.ReceiveUntil("\r\n\r\n" + body);
+              for (std::string_view rest = answer; !rest.empty();) {
+                  const std::ptrdiff_t sent = SendBytes(peer.client, rest);
+                  rest.remove_prefix(sent < 0 ? rest.size() : static_cast<std::size_t>(sent));
+              }
+          }) {}
 };
 
 }  // namespace cvlang

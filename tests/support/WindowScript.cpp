@@ -49,16 +49,34 @@ void Type(wxWindow& parent, const char* box, const std::u16string& text) {
 }
 
 WindowScript::~WindowScript() {
-    EXPECT_TRUE(IsDone()) << "did not come: " << steps_.front().title;
+    EXPECT_TRUE(steps_.empty()) << "did not come: " << steps_.front().first;
     Unregister();
 }
 
 void WindowScript::ExpectBox(const wxString& title, const wxString& text, long style, int answer) {
-    steps_.push_back({title, text, style, answer, nullptr});
+    steps_.emplace_back(title, [=](wxDialog& dialog) {
+        constexpr long kAskedFor = wxYES_NO | wxOK | wxCANCEL | wxICON_MASK;
+        const auto* box = dynamic_cast<wxMessageDialog*>(&dialog);
+        EXPECT_EQ(dialog.GetTitle(), title);
+        EXPECT_EQ(box == nullptr ? "not a message box" : box->GetMessage(), text);
+        EXPECT_EQ(box == nullptr ? -1 : box->GetMessageDialogStyle() & kAskedFor, style) << text;
+        return answer;
+    });
 }
 
+/// The dialog is shown, and the actions run inside its own event loop.
 void WindowScript::ExpectDialog(const wxString& name, std::function<void(wxDialog&)> actions) {
-    steps_.push_back({name, wxString(), 0, wxID_CANCEL, std::move(actions)});
+    steps_.emplace_back(name, [name, actions = std::move(actions)](wxDialog& dialog) {
+        EXPECT_EQ(dialog.GetName(), name);
+        dialog.CallAfter([actions, &dialog] {
+            actions(dialog);
+            if (dialog.IsShown()) {
+                ADD_FAILURE() << dialog.GetTitle() << " is still open";
+                dialog.EndModal(wxID_CANCEL);
+            }
+        });
+        return static_cast<int>(wxID_NONE);
+    });
 }
 
 int WindowScript::Enter(wxDialog* dialog) {
@@ -66,34 +84,9 @@ int WindowScript::Enter(wxDialog* dialog) {
         ADD_FAILURE() << "not foreseen: " << dialog->GetTitle();
         return wxID_CANCEL;
     }
-    const Step step = steps_.front();
+    const auto step = steps_.front().second;
     steps_.pop_front();
-    return step.actions ? WorkIn(step, *dialog) : AnswerBox(step, *dialog);
-}
-
-int WindowScript::AnswerBox(const Step& step, wxDialog& dialog) {
-    EXPECT_EQ(dialog.GetTitle(), step.title);
-    const auto* box = dynamic_cast<wxMessageDialog*>(&dialog);
-    EXPECT_NE(box, nullptr) << "not a message box";
-    if (box != nullptr) {
-        constexpr long kAskedFor = wxYES_NO | wxOK | wxCANCEL | wxICON_MASK;
-        EXPECT_EQ(box->GetMessage(), step.text);
-        EXPECT_EQ(box->GetMessageDialogStyle() & kAskedFor, step.style) << step.text;
-    }
-    return step.answer;
-}
-
-/// The dialog is shown, and the actions run inside its own event loop.
-int WindowScript::WorkIn(const Step& step, wxDialog& dialog) {
-    EXPECT_EQ(dialog.GetName(), step.title);
-    dialog.CallAfter([step, &dialog] {
-        step.actions(dialog);
-        if (dialog.IsShown()) {
-            ADD_FAILURE() << dialog.GetTitle() << " is still open";
-            dialog.EndModal(wxID_CANCEL);
-        }
-    });
-    return wxID_NONE;
+    return step(*dialog);
 }
 
 }  // namespace cvlang

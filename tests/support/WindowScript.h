@@ -51,22 +51,11 @@ class WindowScript : private wxModalDialogHook {
     /// A dialog of the program; the actions close it, as a user must.
     void ExpectDialog(const wxString& name, std::function<void(wxDialog&)> actions);
 
-    /// Whether everything foreseen has happened.
-    bool IsDone() const { return steps_.empty(); }
-
   private:
-    struct Step {
-        wxString title, text;
-        long style = 0;
-        int answer = wxID_OK;
-        std::function<void(wxDialog&)> actions;  // none for a message box
-    };
-
     int Enter(wxDialog* dialog) override;
-    int AnswerBox(const Step& step, wxDialog& dialog);
-    int WorkIn(const Step& step, wxDialog& dialog);
 
-    std::deque<Step> steps_;
+    /// What is foreseen, by its title or name: looks at the dialog and returns the answer.
+    std::deque<std::pair<wxString, std::function<int(wxDialog&)>>> steps_;
 };
 
 }  // namespace cvlang

@@ -1,13 +1,47 @@
 // A message as a real mail server receives it and as another MIME parser reads it.
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdio>
 #include <random>
 
 #include "../MailFixture.h"
-#include "RealServer.h"
 
 namespace cvlang {
 namespace {
+
+/// Takes one message and tells what another MIME parser reads in it.
+class RealServer {
+  public:
+    /// The folder that attachments are compared with.
+    explicit RealServer(const std::filesystem::path& folder)
+        : output_(popen(("timeout 60 " MAIL_TEST_PYTHON " -W ignore " RECEIVE_MAIL " " +
+                         folder.string())
+                            .c_str(),
+                        "r"),
+                  pclose),
+          port_(NextLine()) {}
+
+    /// 0 without a server: python3-aiosmtpd is needed.
+    int Port() const { return port_.empty() ? 0 : std::stoi(port_); }
+
+    /// What the server tells once it has the message.
+    std::string Report() {
+        std::string report;
+        for (std::string line = NextLine(); !line.empty(); line = NextLine())
+            report += line;
+        return report;
+    }
+
+  private:
+    std::string NextLine() {
+        std::array<char, 4096> line{};
+        return std::fgets(line.data(), line.size(), output_.get()) != nullptr ? line.data() : "";
+    }
+
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> output_;
+    const std::string port_;
+};
 
 TEST(RealServer, ReceivesBothFormsOfTheBodyAndEveryAttachmentByteByByte) {
     MailFixture mail;

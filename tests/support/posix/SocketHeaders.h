@@ -6,4 +6,4 @@
 #include <sys/socket.h>
 
 using NativeSocket = int;
-inline constexpr bool kResetsAreTold = true;
+inline constexpr bool kIsComplete = true;

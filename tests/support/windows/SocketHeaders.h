@@ -4,4 +4,4 @@
 #include <ws2tcpip.h>
 
 using NativeSocket = SOCKET;
-inline constexpr bool kResetsAreTold = false;
+inline constexpr bool kIsComplete = false;

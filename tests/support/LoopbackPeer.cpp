@@ -1,10 +1,10 @@
-#include "support/LoopbackListener.h"
+#include "support/LoopbackPeer.h"
 
 #include "SocketHeaders.h"
 
 namespace cvlang {
 
-const bool kTellsEveryReset = kResetsAreTold;
+const bool kNetworkIsComplete = kIsComplete;
 
 LoopbackListener::LoopbackListener() {
     StartSocketLibrary();

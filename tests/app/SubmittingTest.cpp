@@ -1,53 +1,29 @@
-#include "submission/frmSend.h"
+#include <chrono>
+#include <ctime>
+#include <thread>
 
+#include "app/MainWindowFixture.h"
 #include "mail/ScriptedPeer.h"
-#include "support/FakeProgram.h"
-#include "support/WindowScript.h"
-#include "widgets/MessageBoxes.h"
 #include "widgets/frmWait.h"
 
 namespace cvlang {
 namespace {
 
-constexpr const char* kReference = "WebMail-b-tokens.map";
-constexpr const char* kOtherCase = "WebMail-b-TOKENS-fr.map";
-
-bool IsWaiting() {
-    return wxWindow::FindWindowByName("frmWait") != nullptr;
-}
-
-struct WatchedWait : WaitWindow {
-    using WaitWindow::WaitWindow;
-
-    void Step() override {
-        EXPECT_TRUE(IsWaiting());
-        if (fails)
-            throw std::runtime_error("No memory left");
-        WaitWindow::Step();
-    }
-
-    bool fails = false;
-};
-
-struct WatchedBoxes : MessageBoxes {
-    MessageAnswer Show(const UserMessage& message) override {
-        EXPECT_FALSE(IsWaiting());
-        return MessageBoxes::Show(message);
-    }
-};
-
 /// Map files in a folder whose name no code page can hold, and who submits them.
-class Submitting : public testing::Test {
+class Submitting : public MainWindow {
   protected:
     Submitting() {
-        PutFile(folder_ / kReference, std::string("\xFF\xFE\0\r\n.\r\n", 8));
-        PutFile(folder_ / kOtherCase, "x");
+        // A wait for the mail server ends with the clock's minute.
+        if (const auto second = std::time(nullptr) % 60; second > 50)
+            std::this_thread::sleep_for(std::chrono::seconds(60 - second));
+        fake_.registry.strings[u"Application Directory"] = TextFromPath(folder_);
+        PutFile(folder_ / kReferenceMap, std::string("\xFF\xFE\0\r\n.\r\n", 8));
+        PutFile(folder_ / kFrenchMap, "x");
+        PutFile(folder_ / "NETWebMail" / "default" / "x", "");
     }
 
-    void SubmitAll(int port) {
-        frmSend form(nullptr, program_, {u"t@x", u"127.0.0.1", port});
-        form.SubmitAllFiles(folder_ / kReference, u"WebMail", u"b");
-    }
+    /// Opens the window with a mail server at that port.
+    frmMain& WindowWith(int port) { return Window({{}, {u"t@x", u"127.0.0.1", port}}); }
 
     static void Send(wxDialog& dialog, const std::u16string& to, const std::u16string& from) {
         Type(dialog, "txtTo", to);
@@ -65,22 +41,16 @@ class Submitting : public testing::Test {
                           wxOK | wxICON_NONE);
     }
 
-    FakeProgram fake_;
     const std::filesystem::path folder_ = fake_.folder / "\u65E5";
-    WatchedWait waiting_{nullptr};
-    WatchedBoxes boxes_;
-    Program program_{fake_.config, fake_.logs, boxes_, {}, {}, false, &waiting_};
-    WindowScript script_;
 };
 
 TEST_F(Submitting, SendsWhatTheUserSeesOnceHeAgrees) {
-    ScriptedPeer server("220|250|250|250|354|250|221");
+    ScriptedPeer server("220|250|250|250|354|250");
+    Pick(WindowWith(server.Port()), "lstLanguages", u"French");
     script_.ExpectDialog("frmSend", [this](wxDialog& dialog) {
-        EXPECT_EQ(dialog.GetTitle(), "Submit Language Files");
-        EXPECT_EQ(Find<wxWindow>(dialog, "Label4").GetLabel(), "Attachments:");
         EXPECT_EQ(Find<TextBox>(dialog, "txtTo").Text(), u"t@x");
         EXPECT_EQ(Find<TextBox>(dialog, "txtAttachments").GetValue(),
-                  wxString(kReference) + ", " + kOtherCase);
+                  wxString(kReferenceMap) + ", " + kFrenchMap);
         auto& body = Find<wxTextCtrl>(dialog, "txtBody");
         EXPECT_TRUE(body.GetValue().StartsWith("Dear Support Team,"));
         body.SetValue("a\nb");
@@ -98,47 +68,55 @@ TEST_F(Submitting, SendsWhatTheUserSeesOnceHeAgrees) {
     ExpectQuestion(wxID_NO);
     ExpectQuestion(wxID_YES);
     ExpectSuccess();
-    frmSend(nullptr, program_, {u"t@x", u"127.0.0.1", server.Port()})
-        .SubmitFile(folder_ / kReference, folder_ / kOtherCase, u"WebMail", u"French", u"b");
+    Choose(Window(), frmMain::mnuSubmitActive);
     const std::string mail = server.Received();
     for (const char* part :
          {"MAIL FROM:<f@x>\r\n", "RCPT TO:<t@y>\r\n", "\r\na\r\nb\r\n",
-          "\r\nSubject: [Language Token File Submission]: WebMail - b (French)\r\n", kReference,
-          kOtherCase, "\r\neA==\r\n"})
+          "\r\nSubject: [Language Token File Submission]: WebMail - default.net (French)\r\n",
+          kReferenceMap, kFrenchMap, "\r\neA==\r\n"})
         EXPECT_NE(mail.find(part), std::string::npos) << part << " in " << mail;
 }
 
 TEST_F(Submitting, ReportsSuccessThoughTheServerRefuses) {
     ScriptedPeer refusing("421 closed");
-    script_.ExpectDialog("frmSend", [](wxDialog& dialog) {
-        EXPECT_EQ(Find<TextBox>(dialog, "txtAttachments").Text(), u"WebMail-b-tokens.map");
-        Send(dialog, u"t@x", u"f@x");
-    });
+    script_.ExpectDialog("frmSend", [](wxDialog& dialog) { Send(dialog, u"t@x", u"f@x"); });
     ExpectQuestion(wxID_YES);
     ExpectSuccess();
-    SubmitAll(refusing.Port());
+    Choose(WindowWith(refusing.Port()), frmMain::menuSubmitAll);
     EXPECT_TRUE(
         fake_.ErrorLog().ends_with("\tSMTP Server is not contactable for domain: 127.0.0.1\r\n"));
 }
 
+struct FailingWait : WaitWindow {
+    using WaitWindow::WaitWindow;
+
+    void Step() override {
+        EXPECT_NE(wxWindow::FindWindowByName("frmWait"), nullptr);
+        throw std::runtime_error("No memory left");
+    }
+};
+
 TEST_F(Submitting, SurvivesAnErrorAmidTheMail) {
     ScriptedPeer server("220");
-    waiting_.fails = true;
+    FailingWait waiting(&WindowWith(server.Port()));
+    program_.waiting = &waiting;
     script_.ExpectDialog("frmSend", [](wxDialog& dialog) {
         Send(dialog, u"t@x", u"f@x");
         EXPECT_TRUE(dialog.IsShown());
         Press(dialog, "cmdCancel");
     });
     ExpectQuestion(wxID_YES);
-    script_.ExpectBox("CVLangTranslator", "No memory left", wxOK | wxICON_ERROR);
-    SubmitAll(server.Port());
+    script_.ExpectBox("CVLangTranslator", "No memory left", kCritical);
+    Choose(Window(), frmMain::menuSubmitAll);
 }
 
 TEST_F(Submitting, TellsThatThereIsNothingToSend) {
-    std::filesystem::remove(folder_ / kReference);
-    script_.ExpectBox("Send Error", "No translated files for the bbase were available to send.",
-                      wxOK | wxICON_INFORMATION);
-    SubmitAll(0);
+    std::filesystem::remove(folder_ / kReferenceMap);
+    std::filesystem::remove(folder_ / kFrenchMap);
+    script_.ExpectBox("Send Error",
+                      "No translated files for the default.netbase were available to send.",
+                      kInformation);
+    Choose(Window(), frmMain::menuSubmitAll);
 }
 
 }  // namespace

@@ -1,0 +1,101 @@
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "platform/FileCopy.h"
+#include "platform/Paths.h"
+#include "platform/Process.h"
+#include "platform/Utf8.h"
+#include "platform/posix/RegistryExport.h"
+#include "support/Files.h"
+
+namespace cvlang {
+namespace {
+
+TEST(FindExisting, FindsAnEntryAsWindowsWould) {
+    const TemporaryFolder folder;
+    PutFile(folder / "NETWebMail" / "Zephra" / "Page.asp", "page");
+    PutFile(folder / "exact.txt", "exact");
+    PutFile(folder / "EXACT.txt", "other");
+    PutFile(folder / "\xC3\x89t\xC3\xA9.txt", "accents");
+    const std::pair<const char*, const char*> cases[] = {
+        {"netwebmail/ZEPHRA/page.ASP", "NETWebMail/Zephra/Page.asp"},
+        {"netwebmail/new/File.asp", "NETWebMail/new/File.asp"},
+        {"exact.txt", "exact.txt"},
+        {"\xC3\xA9T\xC3\x89.TXT", "\xC3\x89t\xC3\xA9.txt"},
+        {"none/of/these", "none/of/these"}};
+    for (const auto& [asked, found] : cases)
+        EXPECT_EQ(FindExisting(folder / asked), folder / found) << asked;
+    EXPECT_EQ(FindExisting("NETWEBMAIL/zephra"), "NETWebMail/Zephra");
+    FileContent content;
+    EXPECT_EQ(ReadFile("NETWEBMAIL/zephra/PAGE.asp", content), FileStatus::Okay);
+}
+
+TEST(FileCopy, AFileOfTwoNamesIsReplacedUnderOneOfThem) {
+    const TemporaryFolder folder;
+    PutFile(folder / "from" / "a", "fresh");
+    PutFile(folder / "outside", "untouched");
+    std::filesystem::create_directory(folder / "to");
+    std::filesystem::create_hard_link(folder / "outside", folder / "to" / "a");
+    EXPECT_TRUE(CopyOneFile(Folder(folder / "from"), "a", Folder(folder / "to"), {"a", true},
+                            CopiedAttributes::Kept));
+    EXPECT_EQ(FileBytes(folder / "to" / "a"), "fresh");
+    EXPECT_EQ(FileBytes(folder / "outside"), "untouched");
+}
+
+TEST(CommandLineText, IsRebuiltFromTheArguments) {
+    const std::pair<std::vector<const char*>, std::u16string> cases[] = {
+        {{"program"}, u""},
+        {{"program", "WebMail", "x", "Brazilian Portuguese"},
+         u"WebMail x \"Brazilian Portuguese\""},
+        {{"program", "WebMail", "", "\xC3\xA9"}, u"WebMail \"\" \u00E9"},
+        {{"program", ""}, u"\"\""}};
+    for (const auto& [arguments, text] : cases)
+        EXPECT_EQ(CommandLineText(static_cast<int>(arguments.size()), arguments.data()), text);
+}
+
+constexpr char kKey[] = "[HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\Corvane]\r\n";
+
+RegistryValue Value(const std::string& file) {
+    return FindInRegistryExport(file, u"SOFTWARE\\Corvane\\Corvane", u"Value");
+}
+
+TEST(RegistryExport, StringsAreReadWithTheirEscapesAndNumbersAreDwordsOnly) {
+    const std::tuple<const char*, std::optional<std::u16string>, std::optional<std::int32_t>>
+        cases[] = {
+            {R"("Value"="C:\\Program Files")", u"C:\\Program Files", {}},
+            {R"("Value"="say \"hello\"")", u"say \"hello\"", {}},
+            {R"(  "VALUE" = ""  )", u"", {}},
+            {"\"Value\"=hex(2):41,00,42,\\\n  00,00,00", u"AB", {}},
+            {R"("Value"=hex:41,00,00,00)", {}, {}},
+            {R"("Value"="ends in backslash\)", {}, {}},
+            {R"("Value"="text" and more)", {}, {}},
+            {"\"Value\"=\"first\"\n\"Value\"=\"second\"", u"second", {}},
+            {"\"Value\"=\"first\"\n\"Value\"=nonsense", u"first", {}},
+            {"\"Value\"=\"first\"\n\"Value\"=-", {}, {}},
+            {"\"Value\"=\"first\"\n[-HKEY_LOCAL_MACHINE\\SOFTWARE\\corvane]", {}, {}},
+            {"\"Value\"=\"first\"\n[HKEY_CURRENT_USER\\X]\n\"Value\"=\"other\"", u"first", {}},
+            {R"("Value"=dword:00000002)", {}, 2},
+            {R"("Value"=dword:ffffffff)", {}, -1},
+            {R"("Value"=dword:000000002)", {}, {}},
+            {R"("Value"=dword:0000000g)", {}, {}},
+            {R"("Value"=hex(4):02,01,00,00)", {}, 258},
+            {R"("Value"=hex(4:02,00,00,00)", {}, {}},
+            {R"("Value"=hex(4):02,00)", {}, {}},
+            {R"("Value"=hex(5):00,00,00,02)", {}, {}}};
+    for (const auto& [lines, text, number] : cases) {
+        const RegistryValue value = Value(std::string(kKey) + lines + "\r\n");
+        EXPECT_EQ(value.text, text) << lines;
+        EXPECT_EQ(value.number, number) << lines;
+    }
+}
+
+TEST(RegistryExport, TheFileMayBeUtf16OrUtf8WithAMarkOrWithout) {
+    const std::u16string text = Utf8ToUtf16(kKey) + u"\"Value\"=\"\u3042\"\r\n";
+    for (const std::string& file : {Utf16Bytes(text), Utf16Bytes(text).substr(2), Utf16ToUtf8(text),
+                                    "\xEF\xBB\xBF" + Utf16ToUtf8(text)})
+        EXPECT_EQ(Value(file).text, u"\u3042");
+}
+
+}  // namespace
+}  // namespace cvlang

@@ -1,0 +1,124 @@
+// The files of the translation store, read and written as they are.
+#include <gtest/gtest.h>
+
+#include "config/TextHelpers.h"
+#include "platform/Ansi.h"
+#include "support/FakeProgram.h"
+#include "translation/KeyedLines.h"
+#include "translation/LanguageTable.h"
+#include "translation/Lines.h"
+#include "translation/TokenMapFile.h"
+
+namespace cvlang {
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::string kOld = Utf16Bytes(u"k\told\r\n");
+const std::string kNew = Utf16Bytes(u"k\tnew\r\n");
+const std::string kNoFile = "(no file)";
+
+void Rewrite(const FakeProgram& fake, const fs::path& folder = ".") {
+    RewriteKeyedLine(folder / "t.map", folder / "_t.map", u"k", u"new", fake.logs);
+}
+
+TEST(KeyedLines, EveryLineOfTheKeyGetsTheValueAndAllOthersStay) {
+    const FakeProgram fake;
+    const std::pair<std::u16string, std::u16string> cases[] = {
+        {u"a\t1\r\nk\told\tmore\r\nb\r\n", u"a\t1\r\nk\tnew\r\nb\r\n"},
+        {u"k\t1\r\nk  \t2\r\nk", u"k\tnew\r\nk  \tnew\r\nk\tnew\r\n"},
+        {u"K\t1\r\n k\t2\r\n", u"K\t1\r\n k\t2\r\nk\tnew\r\n"},
+        {u"\r\na\nb\r", u"\r\na\r\nb\r\nk\tnew\r\n"},
+        {u"", u"k\tnew\r\n"}};
+    for (const auto& [before, after] : cases) {
+        PutFile("t.map", Utf16Bytes(before));
+        PutFile("_t.map", "left over");
+        Rewrite(fake);
+        EXPECT_EQ(FileBytes("t.map"), Utf16Bytes(after));
+        EXPECT_EQ(FileBytes("_t.map"), kNoFile);
+    }
+}
+
+TEST(KeyedLines, EveryFailureLeavesItsState) {
+    const FakeProgram fake;
+    PutFile("_t.map", "left over");
+    Rewrite(fake);  // a missing file is created without the temporary one
+    EXPECT_EQ(FileBytes("t.map"), kNew);
+    EXPECT_EQ(FileBytes("_t.map"), "left over");
+
+    PutFile("t.map", kOld);
+    SetReadOnly("t.map", true);
+    Rewrite(fake);  // a file that cannot be deleted stays beside its new version
+    EXPECT_EQ(FileBytes("t.map"), kOld);
+    EXPECT_EQ(FileBytes("_t.map"), kNew);
+    SetReadOnly("t.map", false);
+
+    fs::remove("_t.map");
+    fs::create_directory("_t.map");
+    Rewrite(fake);  // a temporary file that cannot be created costs the file
+    EXPECT_EQ(FileBytes("t.map"), kNoFile);
+    PutFile("t.map", kOld);
+    RewriteKeyedLine("t.map", "none/_t.map", u"k", u"new", fake.logs);
+    EXPECT_EQ(FileBytes("t.map"), kNoFile);
+
+    EXPECT_EQ(fake.ErrorLog(), kNoFile);
+    Rewrite(fake, "none");  // only a file that cannot be opened is told
+    EXPECT_TRUE(fake.ErrorLog().ends_with("\tUnable to update token\r\n"));
+}
+
+constexpr char kList[] = "WebMail-default-lang.txt";
+
+std::u16string Abbreviation(const FakeProgram& fake, std::u16string_view language) {
+    return GetLanguageAbbreviation(fake.config, u"WebMail", language, u"default");
+}
+
+TEST(LanguageTable, TheBuiltInAbbreviationsServeUntilAListFileIsCreated) {
+    FakeProgram fake;
+    constexpr std::u16string_view kInBothTables =
+        u"Chinese\tzh\r\nDanish\tdk\r\nEnglish\ten\r\nFrench\tfr\r\nGerman\tde\r\n"
+        u"Italian\tit\r\nJapanese\tja\r\nKorean\tko\r\nPolish\tpl\r\nPortuguese\tpt\r\n"
+        u"Brazilian Portuguese\tpt-BR\r\nSpanish\tes\r\n";
+    Lines<char16_t> lines(kInBothTables);
+    for (std::u16string_view line; lines.Next(line);)
+        EXPECT_EQ(Abbreviation(fake, SplitField(line, kTab, 1)), SplitField(line, kTab, 2));
+    const std::pair<std::u16string, std::u16string> cases[] = {
+        {u"portugese", u"pt"}, {u"Brazilian PORTUGESE", u"pt-BR"},
+        {u"Turkish", u"tr"},   {u"Dutch", u"nl"},
+        {u"Swedish", u""},     {u"French ", u""}};
+    for (const auto& [name, abbreviation] : cases)
+        EXPECT_EQ(Abbreviation(fake, name), abbreviation);
+    EXPECT_EQ(LoadLanguageList(fake.config, u"WebMail", u"default").back(), u"Swedish");
+    EXPECT_EQ(FileBytes(kList), Utf16ToAnsi(kInBothTables) + "Swedish\tsw\r\n");
+    EXPECT_EQ(Abbreviation(fake, u"swedish"), u"sw");
+    EXPECT_EQ(Abbreviation(fake, u"Turkish"), u"");
+    PutFile(kList, "\xC9t\xE9\tfr-CA\n\n\xC9T\xC9\tother");
+    EXPECT_EQ(Abbreviation(fake, u"\u00E9t\u00E9"), u"fr-CA");
+    fake.registry.strings[u"Application Directory"] = TextFromPath(fake.folder / "none");
+    EXPECT_TRUE(LoadLanguageList(fake.config, u"WebMail", u"default").empty());
+}
+
+constexpr char kFrench[] = "WebMail-default-tokens-fr.map";
+
+TEST(TokenMapFile, LinesAreLoadedAtTheirNumbersAndTheFirstWithExactlyTheTokenIsFound) {
+    using Texts = std::vector<std::u16string>;
+    const FakeProgram fake;
+    PutFile(kFrench, Utf16Bytes(u"[CV_A] \tblank\r\n\r\n[cv_a]\tcase\r\n[CV_A]\t1\t2\r\n[CV_A]") +
+                         "b");  // an odd byte at the end
+    for (const std::size_t held : {std::size_t{1}, std::size_t{10}}) {
+        Texts tokens(held, u"held");
+        Texts values(held, u"held");
+        LoadTokens(fake.config, u"WebMail", u"default", u"German", tokens, values);
+        EXPECT_EQ(tokens, Texts(held, u"held"));  // as no file is there
+        LoadTokens(fake.config, u"WebMail", u"default", u"French", tokens, values);
+        EXPECT_EQ(tokens, (Texts{u"held", u"[CV_A] ", u"", u"[cv_a]", u"[CV_A]", u"[CV_A]"}));
+        EXPECT_EQ(values, (Texts{u"held", u"blank", u"", u"case", u"1", u""}));
+    }
+    for (const auto& [language, value] : {std::pair{u"French", u"1"}, {u"German", u""}}) {
+        EXPECT_EQ(
+            GetTokenValue(fake.config, u"WebMail", u"[CV_A]: Hello [x]: y", u"default", language),
+            value);
+    }
+}
+
+}  // namespace
+}  // namespace cvlang
