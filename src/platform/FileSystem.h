@@ -1,8 +1,8 @@
 // Files and folders, as far as Windows and Linux differ about them: attributes, letter case, links.
 //
 // What reads (ReadFile, EntryExists) finds an entry whose name differs only in letter
-// case. What writes or lists takes the path exactly; pass it through FindExisting first where an entry may
-// exist under another spelling.
+// case. What writes or lists takes the path exactly; pass it through FindExisting first where an
+// entry may exist under another spelling.
 #pragma once
 
 #include <filesystem>
