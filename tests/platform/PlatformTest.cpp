@@ -5,8 +5,6 @@
 #include "platform/Ansi.h"
 #include "platform/FileSystem.h"
 #include "platform/FolderCopy.h"
-#include "platform/FolderListing.h"
-#include "platform/LetterCase.h"
 #include "platform/Paths.h"
 #include "platform/Utf8.h"
 #include "support/Files.h"
@@ -15,17 +13,6 @@ namespace cvlang {
 namespace {
 
 namespace fs = std::filesystem;
-
-TEST(FileSystem, AFolderIsListedInTheOrderOfADirectoryWindow) {
-    const TemporaryFolder folder;
-    for (const char* name : {"b.asp", "C.asp", "a.asp", "Abc.asp"})
-        PutFile(folder / name, "");
-    for (const char* name : {"two", "One"})
-        CreateFolder(folder / name);
-    const FolderListing listing = ListFolder(folder.Path());
-    EXPECT_EQ(listing.files, (std::vector<fs::path>{"a.asp", "Abc.asp", "b.asp", "C.asp"}));
-    EXPECT_EQ(listing.folders, (std::vector<fs::path>{"One", "two"}));
-}
 
 TEST(FileSystem, AFolderCopiedOntoItselfChangesNoByteAndIntoItselfEnds) {
     const TemporaryFolder folder;
@@ -68,11 +55,6 @@ TEST(Utf8, AnyTextSurvivesTheWayThereAndBackLoneSurrogatesToo) {
     }
     EXPECT_EQ(PathFromText({u"a\0b", 3}), PathFromText(u"a\uFFFDb"));
     EXPECT_EQ(Utf16ToUtf8(u"\u00E9\u3042\U0001F600"), "\xC3\xA9\xE3\x81\x82\xF0\x9F\x98\x80");
-}
-
-TEST(LetterCase, CapitalsAreMadeLetterByLetter) {
-    EXPECT_EQ(ToUpper(u"fran\u00E7ais \u00DF i\u0131 \u03B1 \u0436 z9[{"),
-              u"FRAN\u00C7AIS \u00DF I" + ToUpper(u"\u0131") + u" \u0391 \u0416 Z9[{");
 }
 
 }  // namespace

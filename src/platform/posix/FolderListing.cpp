@@ -8,7 +8,6 @@
 #include <memory>
 #include <string_view>
 
-
 namespace cvlang {
 namespace {
 
