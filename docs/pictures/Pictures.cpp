@@ -104,10 +104,12 @@ class PicturesApp : public wxApp {
 
   private:
     void TakeAll() {
+        Settle();
         auto& languages = Find<SelectionList>(*window_, "lstLanguages");
         const auto& names = languages.Entries();
         languages.Click(static_cast<std::size_t>(std::find(names.begin(), names.end(), language_) -
                                                  names.begin()));
+        Settle();
         Find<SelectionList>(*window_, "lbxTokens").Click(2);
         TakePicture("main-window", *window_);
         ShowDialogs();

@@ -32,7 +32,7 @@ constexpr int kListHeight = 80;
 constexpr int kTokensHeight = 80;
 constexpr int kDetailsHeight = 56;
 constexpr int kStartWidth = 800;
-constexpr int kStartHeight = 690;
+constexpr int kStartHeight = 735;
 
 /// A list's own idea of its size follows its entries, which come and go.
 void SetLeastSize(wxWindow* window, int width, int height) {

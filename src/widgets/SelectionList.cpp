@@ -32,8 +32,9 @@ std::u16string SelectionList::SelectedText() const {
 void SelectionList::Click(std::size_t index) {
     if (index >= entries_.size())
         return;
+    // This scrolls as well. GTK, asked to scroll once more before it has measured the rows, draws
+    // them over each other.
     SetSelection(static_cast<int>(index));
-    EnsureVisible(static_cast<int>(index));
     onClick_();
 }
 
