@@ -27,7 +27,7 @@ bool MayHoldMarker(const char* text, std::size_t size) {
     const auto* c = reinterpret_cast<const unsigned char*>(text);
     unsigned char closest = 0xFF;  // 0 when everything agrees somewhere
     for (std::size_t i = 0; i < size; ++i) {
-        // No letter makes the first part 0.
+        // Left of the bar no letter gives 0; the few characters that do cost a closer look.
         const unsigned difference =
             ((c[i] ^ '<') & (c[i] ^ '/')) |
             (((c[i + 1] ^ 's') | (c[i + 2] ^ 'c') | (c[i + 3] ^ 'r')) & kIgnoreCase);
