@@ -10,12 +10,6 @@
 namespace cvlang {
 namespace {
 
-TEST_F(MainWindow, FitsASmallScreen) {
-    const wxSize smallest = Window().GetMinSize();
-    EXPECT_LE(smallest.x, 1024);
-    EXPECT_LE(smallest.y, 740);
-}
-
 TEST_F(MainWindow, OpensWithNoLanguageAndListsTokensWhenOneIsClicked) {
     EXPECT_EQ(Entries("lstApplication"), List({u"WebMail", u"WebAdmin"}));
     EXPECT_EQ(Entries("lstBases"), List({u"default.net", u"zephra.net"}));

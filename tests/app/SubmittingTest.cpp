@@ -53,7 +53,7 @@ TEST_F(Submitting, SendsWhatTheUserSeesOnceHeAgrees) {
                   wxString(kReferenceMap) + ", " + kFrenchMap);
         auto& body = Find<wxTextCtrl>(dialog, "txtBody");
         EXPECT_TRUE(body.GetValue().StartsWith("Dear Support Team,"));
-        body.SetValue("a\nb");
+        body.SetValue("a\n\nb");
         Send(dialog, u"t@y", u"f@");
         EXPECT_EQ(wxWindow::FindFocus()->GetName(), "txtFrom");
         EXPECT_EQ(Find<TextBox>(dialog, "txtFrom").GetStringSelection(), "f@");
@@ -71,7 +71,7 @@ TEST_F(Submitting, SendsWhatTheUserSeesOnceHeAgrees) {
     Choose(Window(), frmMain::mnuSubmitActive);
     const std::string mail = server.Received();
     for (const char* part :
-         {"MAIL FROM:<f@x>\r\n", "RCPT TO:<t@y>\r\n", "\r\na\r\nb\r\n",
+         {"MAIL FROM:<f@x>\r\n", "RCPT TO:<t@y>\r\n", "\r\na\r\n\r\nb\r\n",
           "\r\nSubject: [Language Token File Submission]: WebMail - default.net (French)\r\n",
           kReferenceMap, kFrenchMap, "\r\neA==\r\n"})
         EXPECT_NE(mail.find(part), std::string::npos) << part << " in " << mail;

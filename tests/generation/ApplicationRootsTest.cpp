@@ -27,10 +27,6 @@ TEST(ApplicationRoots, EveryApplicationAndBaseHasItsPlace) {
         registry.strings[u"Source Root"] = sourceRoot;
         EXPECT_EQ(Path(GetLanguageRoot(config, application, base)), root);
     }
-    for (const auto& [version, code] : {std::pair{1, u"EN"}, {2, u"SYS"}, {3, u"SYS"}}) {
-        registry.numbers[u"Authoring Version"] = version;
-        EXPECT_EQ(GetReferenceLanguageCode(config), code);
-    }
 }
 
 }  // namespace
