@@ -188,6 +188,9 @@ TEST_F(MainWindowKeys, SaveFindAndMoveOn) {
         Key(key, modifiers);
         EXPECT_EQ(Token(), token);
     }
+    Type(Window(), "txtTranslation", u"not saved");
+    Key(WXK_DOWN, wxMOD_CONTROL | wxMOD_SHIFT);  // finds the same token: nothing is loaded
+    EXPECT_EQ(Translation(), u"not saved");
 }
 
 TEST_F(MainWindowKeys, PasteOnOneLine) {
@@ -199,6 +202,8 @@ TEST_F(MainWindowKeys, PasteOnOneLine) {
     wxTheClipboard->Close();
     Key('V', wxMOD_CONTROL);
     EXPECT_EQ(Translation(), u"a b c d");
+    Find<TextBox>(Window(), "txtTranslation").WriteText("\te");  // as if it were dropped
+    EXPECT_EQ(Translation(), u"a b c d e");
 }
 
 }  // namespace

@@ -30,6 +30,16 @@ TEST(PlaceholderSubstitution, MoreTokensThanCanBeNumberedEndAPageAtItsFirstPlace
     }
 }
 
+TEST(PlaceholderSubstitution, AScriptEndsWhereverInABlockOfThePageItsTagStands) {
+    for (std::size_t size = 250; size < 260; ++size) {
+        const std::string page = "<script >\n" + std::string(size, '<') + "</script>\n[CV_TXT-A]" +
+                                 std::string(300, ' ');
+        const auto result =
+            Substitute(page, {u"", u"[CV_TXT-A]"}, {u"", u"'"}, ScriptMode::Tracked);
+        EXPECT_EQ(result->text.find('\\'), std::string::npos) << size;
+    }
+}
+
 // Few pieces, so that they meet in every way: tokens within tokens, values that bring or complete
 // placeholders, brackets left open, empty and repeated tokens, tokens of any other form; tags on
 // both sides of where a look at a block of the page ends, and what only resembles a tag.
