@@ -1,5 +1,6 @@
 // Window mode from the module. Without the module the program is as without a display.
 #include "app/Window.h"
+#include "platform/Process.h"
 #include "platform/SharedModule.h"
 
 namespace cvlang {
@@ -14,7 +15,10 @@ Function* FromModule(const char* name) {
 
 ExitStatus ShowMainWindow(const Configuration& config, Logs& logs) {
     const auto show = FromModule<int(const Configuration*, Logs*)>("CVLangShowMainWindow");
-    return show == nullptr ? ExitStatus::NoWindow : static_cast<ExitStatus>(show(&config, &logs));
+    if (show != nullptr)
+        return static_cast<ExitStatus>(show(&config, &logs));
+    WriteErrorLine(ReasonNothingWasFound());
+    return ExitStatus::NoWindow;
 }
 
 bool ShowInBox(const UserMessage& message) {

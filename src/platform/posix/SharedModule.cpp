@@ -2,12 +2,19 @@
 
 #include <dlfcn.h>
 
+#include "platform/Utf8.h"
+
 namespace cvlang {
 
 void* FindInModule(const char* module, const char* symbol) {
     // Never closed: a toolkit does not survive being unloaded.
     void* const handle = dlopen(module, RTLD_NOW | RTLD_LOCAL);
     return handle == nullptr ? nullptr : dlsym(handle, symbol);
+}
+
+std::u16string ReasonNothingWasFound() {
+    const char* const reason = dlerror();
+    return reason == nullptr ? std::u16string() : Utf8ToUtf16(reason);
 }
 
 }  // namespace cvlang
