@@ -28,8 +28,8 @@ std::size_t EncodeUTF8(std::u16string_view sText, std::vector<std::uint8_t>& byt
     return size;
 }
 
-std::string BytesToString(const std::vector<std::uint8_t>& bytInput) {
-    return {bytInput.begin(), bytInput.end()};
+std::string_view BytesToString(const std::vector<std::uint8_t>& bytInput) {
+    return {reinterpret_cast<const char*>(bytInput.data()), bytInput.size()};
 }
 
 std::string EscapeForScript(std::string_view sText) {

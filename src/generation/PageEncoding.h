@@ -16,8 +16,9 @@ inline constexpr std::string_view kUtf8ByteOrderMark = "\xEF\xBB\xBF";
 /// leaves the array untouched.
 std::size_t EncodeUTF8(std::u16string_view sText, std::vector<std::uint8_t>& bytOutput);
 
-/// The bytes as text of one character each, ready to be inserted into a page.
-std::string BytesToString(const std::vector<std::uint8_t>& bytInput);
+/// The bytes as text of one character each, ready to be inserted into a page; it lives as long as
+/// the bytes.
+std::string_view BytesToString(const std::vector<std::uint8_t>& bytInput);
 
 /// The text with a backslash before every "'" and every quotation mark; backslashes in the text
 /// stay as they are.

@@ -85,12 +85,9 @@ void TokenIndex::Add(TokenNumber number, std::u16string_view token, std::u16stri
         empty_.push_back(number);
         return;
     }
-    std::string encoded;
-    if (!value.empty()) {
-        EncodeUTF8(value, encoded_);
-        encoded = BytesToString(encoded_);
-    }
-    IndexedToken& stored = Store(number, *ansi, encoded);
+    encoded_.clear();
+    EncodeUTF8(value, encoded_);
+    IndexedToken& stored = Store(number, *ansi, BytesToString(encoded_));
     if (IsGroup(*ansi)) {
         AddGroup(stored);
     } else {
