@@ -105,9 +105,9 @@ IndexedToken& TokenIndex::Store(TokenNumber number, std::string_view token,
     stored->hasQuotes_ = std::any_of(value.begin(), value.end(), IsQuote);
     stored->dependsOnOrder_ =
         !token.starts_with(kPlaceholderPrefix) || value.find('[') != std::string_view::npos;
-    std::byte* texts = memory_.get() + used_ + sizeof(IndexedToken);
-    std::memcpy(texts, token.data(), token.size());
-    std::memcpy(texts + token.size(), value.data(), value.size());
+    auto* texts = reinterpret_cast<char*>(memory_.get() + used_ + sizeof(IndexedToken));
+    token.copy(texts, token.size());
+    value.copy(texts + token.size(), value.size());
     used_ += sizeof(IndexedToken) + token.size() + value.size();
     used_ += (kAlignment - used_ % kAlignment) % kAlignment;
     return *stored;
