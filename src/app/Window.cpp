@@ -72,10 +72,10 @@ bool ShowInBox(const UserMessage& message) {
     wxApp::SetInstance(new wxApp);
     NoArguments arguments;
     const wxInitializer toolkit(arguments.count, arguments.values);
-    if (!toolkit.IsOk())
+    if (!toolkit.IsOk() || !CanMakeWindows())
         return false;
-    // Where a box cannot be made it comes back without its button pressed.
-    return MessageBoxes().Show(message) == MessageAnswer::Ok;
+    MessageBoxes().Show(message);
+    return true;
 }
 
 }  // namespace cvlang
