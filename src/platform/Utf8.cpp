@@ -1,16 +1,11 @@
 #include "platform/Utf8.h"
 
+#include "platform/Surrogates.h"
+
 namespace cvlang {
 namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
-
-bool IsHighSurrogate(char16_t c) {
-    return c >= 0xD800 && c < 0xDC00;
-}
-bool IsLowSurrogate(char16_t c) {
-    return c >= 0xDC00 && c < 0xE000;
-}
 
 void AppendUtf8(std::string& bytes, char32_t c) {
     const auto tail = [c](int shift) { return static_cast<char>(0x80 | ((c >> shift) & 0x3F)); };
@@ -22,15 +17,6 @@ void AppendUtf8(std::string& bytes, char32_t c) {
         bytes += {static_cast<char>(0xE0 | (c >> 12)), tail(6), tail(0)};
     } else {
         bytes += {static_cast<char>(0xF0 | (c >> 18)), tail(12), tail(6), tail(0)};
-    }
-}
-
-void AppendUtf16(std::u16string& text, char32_t c) {
-    if (c < 0x10000) {
-        text += static_cast<char16_t>(c);
-    } else {
-        text += static_cast<char16_t>(0xD800 + ((c - 0x10000) >> 10));
-        text += static_cast<char16_t>(0xDC00 + ((c - 0x10000) & 0x3FF));
     }
 }
 
@@ -75,14 +61,8 @@ Decoded DecodeFirst(std::string_view bytes) {
 std::string Utf16ToUtf8(std::u16string_view text) {
     std::string bytes;
     bytes.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        char32_t c = text[i];
-        if (IsHighSurrogate(text[i]) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
-            c = 0x10000 + ((c - 0xD800) << 10) + (text[i + 1] - 0xDC00U);
-            ++i;
-        }
-        AppendUtf8(bytes, c);
-    }
+    while (!text.empty())
+        AppendUtf8(bytes, TakeCharacter(text));
     return bytes;
 }
 
@@ -91,7 +71,7 @@ std::u16string Utf8ToUtf16(std::string_view bytes) {
     text.reserve(bytes.size());
     while (!bytes.empty()) {
         const Decoded next = DecodeFirst(bytes);
-        AppendUtf16(text, next.character);
+        AppendCharacter(text, next.character);
         bytes.remove_prefix(next.length);
     }
     return text;
