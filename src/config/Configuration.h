@@ -26,7 +26,8 @@ class Configuration {
 
     /// The folder of the post offices; "Default Value" when the registry fails.
     std::u16string GetPostOfficesDirectory() const;
-    /// The application directory as it is stored, empty when it is missing.
+    /// The application directory as it is stored, empty when it is missing; the usual place of
+    /// installation when the registry fails.
     std::u16string GetProgramDirectory() const;
     /// The application directory, or the usual place of installation when none is stored.
     std::u16string GetApplicationDirectory() const;

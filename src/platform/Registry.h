@@ -8,7 +8,8 @@
 
 namespace cvlang {
 
-/// Where settings come from. Every call reads anew; nothing is cached.
+/// Where settings come from. Every call reads anew; nothing is cached. A registry may raise an
+/// error; the system's does so only when memory runs out.
 class Registry {
   public:
     virtual ~Registry() = default;
