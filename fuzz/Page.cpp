@@ -6,13 +6,13 @@
 #include "platform/Utf8.h"
 
 void cvlang::Try(std::string_view input) {
-    std::vector<std::u16string> tokens(1);
-    std::vector<std::u16string> values(1);
+    TextArray tokens(1);
+    TextArray values(1);
     std::string_view line = TakeLine(input);
     std::size_t growth = 1;
     for (; line.find('\t') != line.npos; line = TakeLine(input)) {
-        tokens.push_back(Utf8ToUtf16(line.substr(0, line.find('\t'))));
-        values.push_back(Utf8ToUtf16(line.substr(line.find('\t') + 1)));
+        tokens.emplace_back(Utf8ToUtf16(line.substr(0, line.find('\t'))));
+        values.emplace_back(Utf8ToUtf16(line.substr(line.find('\t') + 1)));
         growth *= 1 + values.back().size();
         if (growth > 1000000)  // values within values: the page would become as large
             return;
@@ -24,8 +24,8 @@ void cvlang::Try(std::string_view input) {
     const TokenIndex index(tokens, values);
     std::vector<std::int32_t> useCounts(tokens.size());
     PlaceholderSubstitution substitution(index, useCounts);
-    std::string text;
+    PageText text;
     Must(substitution.Translate(input, mode, text), "a page is translated");
-    Must(text == expected.text, "the text is that of the plain procedure");
+    Must(text.View() == expected.text, "the text is that of the plain procedure");
     Must(useCounts == expected.useCounts, "so are the counts");
 }

@@ -7,21 +7,21 @@ void cvlang::Try(std::string_view input) {
     const FakeProgram& fake = Surroundings();
     constexpr char kFile[] = "WebMail-default-tokens-fr.map";
     PutFile(kFile, StoreFile(input));
-    std::vector<std::u16string> tokens(1, u"held");
-    std::vector<std::u16string> values(3, u"held");
+    TextArray tokens(1, u"held");
+    TextArray values(3, u"held");
     LoadTokens(fake.config, u"WebMail", u"default", u"French", tokens, values);
     const bool isEmpty = StoreFile(input).size() < 4;
     Must(isEmpty || tokens.size() == values.size(), "each token has its value");
     Must(tokens[0] == u"held" && values[0] == u"held", "the first elements stay");
     for (std::size_t i = 1; i < std::min<std::size_t>(tokens.size(), 20); ++i) {
-        std::u16string asked = tokens[i];
+        TextArray::value_type asked = tokens[i];
         if (asked.find(u"]:") != asked.npos)
             continue;
         const auto first = std::find(tokens.begin() + 1, tokens.end(), asked) - tokens.begin();
         if (asked.starts_with(kTokenPrefix) && asked.ends_with(u']'))
             asked += u": English [x]: more";
-        Must(GetTokenValue(fake.config, u"WebMail", asked, u"default", u"French") ==
-                 values[static_cast<std::size_t>(first)],
+        const std::u16string_view value = values[static_cast<std::size_t>(first)];
+        Must(GetTokenValue(fake.config, u"WebMail", asked, u"default", u"French") == value,
              "a token, or its list entry, is found where it is loaded first");
     }
     for (const std::u16string& entry : ListTokens(kFile))

@@ -26,15 +26,15 @@ std::optional<std::size_t> FindNext(const std::vector<std::u16string>& entries,
 std::unordered_set<std::u16string> TranslatedTokens(const Program& program,
                                                     std::u16string_view base,
                                                     std::u16string_view language) {
-    std::vector<std::u16string> tokens;
-    std::vector<std::u16string> values;
+    TextArray tokens;
+    TextArray values;
     LoadLanguageTokensIntoArrays(program.config, program.CurrentApplication, base, language, tokens,
                                  values);
-    std::unordered_set<std::u16string> seen;
+    std::unordered_set<std::u16string_view> seen;
     std::unordered_set<std::u16string> translated;
     for (std::size_t i = 1; i < tokens.size(); ++i) {
         if (seen.insert(tokens[i]).second && !values[i].empty())
-            translated.insert(tokens[i]);
+            translated.emplace(tokens[i]);
     }
     return translated;
 }

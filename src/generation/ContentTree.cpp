@@ -1,6 +1,7 @@
 #include "generation/ContentTree.h"
 
 #include <algorithm>
+#include <memory_resource>
 #include <string>
 #include <vector>
 
@@ -73,11 +74,11 @@ bool MayOverwrite(Program& program) {
            MessageAnswer::Yes;
 }
 
-void TraceTokenUse(Program& program, const std::vector<std::u16string>& arrTokens) {
+void TraceTokenUse(Program& program, const TextArray& arrTokens) {
     for (std::size_t i = 1; i < arrTokens.size(); ++i) {
         const std::string count =
             std::to_string(i < program.tokenUseCounts.size() ? program.tokenUseCounts[i] : 0);
-        program.logs.LogTranslationTrace(arrTokens[i] + u"\t" + AnsiToUtf16(count));
+        program.logs.LogTranslationTrace(std::u16string(arrTokens[i]) + u"\t" + AnsiToUtf16(count));
     }
 }
 
@@ -90,8 +91,9 @@ bool ApplyTranslation(Program& program, std::u16string_view sApplication, std::u
     });
     if (!PrepareLanguageFolder(program, sApplication, sBase, sLanguage, 1))
         return false;
-    std::vector<std::u16string> arrTokens(1);
-    std::vector<std::u16string> arrValues(1);
+    std::pmr::monotonic_buffer_resource memory;
+    TextArray arrTokens(1, &memory);
+    TextArray arrValues(1, &memory);
     LoadTokens(program.config, sApplication, sBase, sLanguage, arrTokens, arrValues);
     PageTranslator pages(program, sLanguage, sBase, sApplication, arrTokens, arrValues);
     const ContentFolders folders = FoldersOf(program.config, sApplication, sBase, sLanguage);

@@ -1,7 +1,5 @@
 #include "generation/PageEncoding.h"
 
-#include <algorithm>
-
 namespace cvlang {
 
 std::size_t EncodeUTF8(std::u16string_view sText, std::vector<std::uint8_t>& bytOutput) {
@@ -33,21 +31,23 @@ std::string_view BytesToString(const std::vector<std::uint8_t>& bytInput) {
 }
 
 std::string EscapeForScript(std::string_view sText) {
-    std::string escaped;
+    PageText escaped;
     AppendEscapedForScript(sText, escaped);
-    return escaped;
+    return std::string(escaped.View());
 }
 
-void AppendEscapedForScript(std::string_view text, std::string& output) {
-    const auto isQuote = [](char c) { return c == '\'' || c == '"'; };
-    for (auto from = text.begin();;) {
-        const auto quote = std::find_if(from, text.end(), isQuote);
-        output.append(from, quote);
-        if (quote == text.end())
-            return;
-        output += {'\\', *quote};
-        from = quote + 1;
+void AppendEscapedForScript(std::string_view text, PageText& page) {
+    const std::size_t most = 2 * text.size();
+    char* const start = page.Extend(most);
+    char* end = start;
+    for (const char c : text) {
+        // The backslash is written in any case, and stays for a quote: no surprise for the
+        // processor.
+        *end = '\\';
+        end += c == '\'' || c == '"' ? 1 : 0;
+        *end++ = c;
     }
+    page.Truncate(page.Size() - most + static_cast<std::size_t>(end - start));
 }
 
 }  // namespace cvlang

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "generation/PageText.h"
+
 namespace cvlang {
 
 inline constexpr std::string_view kUtf8ByteOrderMark = "\xEF\xBB\xBF";
@@ -23,7 +25,7 @@ std::string_view BytesToString(const std::vector<std::uint8_t>& bytInput);
 /// The text with a backslash before every "'" and every quotation mark; backslashes in the text
 /// stay as they are.
 std::string EscapeForScript(std::string_view sText);
-/// The same at the end of another text.
-void AppendEscapedForScript(std::string_view text, std::string& output);
+/// The same at the end of a page.
+void AppendEscapedForScript(std::string_view text, PageText& page);
 
 }  // namespace cvlang

@@ -8,8 +8,7 @@ namespace cvlang {
 
 inline constexpr std::string_view kPageLineEnd = "\r\n";
 
-/// The page's lines, joined by CR LF, without the last line's end. A page that has no other line
-/// ends is not copied; otherwise the result lies in `scratch`.
-std::string_view JoinLines(std::string_view page, std::string& scratch);
+/// The page with each line, the last one too, ended by CR LF.
+std::string WithPairs(std::string_view page);
 
 }  // namespace cvlang

@@ -43,8 +43,7 @@ ScriptMode ScriptModeOf(const fs::path& path, bool scriptAware) {
 
 PageTranslator::PageTranslator(Program& program, std::u16string_view sLanguage,
                                std::u16string_view sBase, std::u16string_view sApplication,
-                               const std::vector<std::u16string>& arrTokens,
-                               const std::vector<std::u16string>& arrValues)
+                               const TextArray& arrTokens, const TextArray& arrValues)
     : program_(program),
       referencePart_(FolderPart(GetReferenceLanguageCode(program.config))),
       languagePart_(FolderPart(
@@ -75,7 +74,8 @@ void PageTranslator::TranslateFile(const Folder& folder, const fs::path& name, b
 }
 
 void PageTranslator::RewriteFile(const Folder& folder, const fs::path& name, bool bScriptAware) {
-    page_ = kUtf8ByteOrderMark;
+    page_.Truncate(0);
+    page_.Append(kUtf8ByteOrderMark);
     if (!substitution_.Translate(source_.Bytes(), ScriptModeOf(name, bScriptAware), page_))
         return;
     if (source_.HasAttributes())
@@ -92,7 +92,7 @@ void PageTranslator::RewriteFile(const Folder& folder, const fs::path& name, boo
 
 /// The page behind one byte-order mark: its own, if it has one.
 std::string_view PageTranslator::PageBytes() const {
-    std::string_view bytes = page_;
+    std::string_view bytes = page_.View();
     if (bytes.substr(kUtf8ByteOrderMark.size(), kUtf8ByteOrderMark.size()) == kUtf8ByteOrderMark)
         bytes.remove_prefix(kUtf8ByteOrderMark.size());
     return bytes;

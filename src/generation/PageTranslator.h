@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "config/Program.h"
+#include "generation/PageText.h"
 #include "generation/PlaceholderSubstitution.h"
 #include "generation/TokenIndex.h"
 #include "platform/FileSystem.h"
@@ -20,8 +21,8 @@ class PageTranslator {
     /// Language, base and application name the language's folder; the arrays are those of
     /// LoadTokens.
     PageTranslator(Program& program, std::u16string_view sLanguage, std::u16string_view sBase,
-                   std::u16string_view sApplication, const std::vector<std::u16string>& arrTokens,
-                   const std::vector<std::u16string>& arrValues);
+                   std::u16string_view sApplication, const TextArray& arrTokens,
+                   const TextArray& arrValues);
     PageTranslator(const PageTranslator&) = delete;
     PageTranslator& operator=(const PageTranslator&) = delete;
 
@@ -50,7 +51,7 @@ class PageTranslator {
     TokenIndex tokens_;
     PlaceholderSubstitution substitution_;
     FileContent source_;
-    std::string page_;
+    PageText page_;
     std::set<std::filesystem::path> created_;
 };
 

@@ -3,7 +3,7 @@
 // What comes out is defined by a plain procedure: line by line, token by token in array order,
 // every occurrence of the token is replaced by its value, as long as the line still holds the
 // beginning of a placeholder. Going through all tokens for every line would take minutes for a
-// large installation, so a line is read once and its placeholders are looked up. That comes to the
+// large installation, so a page is read once and its placeholders are looked up. That comes to the
 // same wherever no replacement can make or break another placeholder; a line where one can is taken
 // through its tokens in order. docs/architecture.md says why.
 #pragma once
@@ -13,6 +13,8 @@
 #include <string_view>
 #include <vector>
 
+#include "generation/PageOutline.h"
+#include "generation/PageText.h"
 #include "generation/ScriptTracker.h"
 #include "generation/TokenIndex.h"
 
@@ -28,37 +30,40 @@ class PlaceholderSubstitution {
     /// the blank lines at the start and without the last line's end. False when the page holds a
     /// placeholder and there are more tokens than can be numbered (32767); the output is then of no
     /// use.
-    bool Translate(std::string_view page, ScriptMode mode, std::string& output);
+    bool Translate(std::string_view page, ScriptMode mode, PageText& output);
 
   private:
-    struct Line {
+    using Groups = std::vector<Group>::const_iterator;
+    struct Page {
         std::string_view text;
-        std::size_t end;  // its position on the page
-        ScriptTracker& script;
+        ScriptTracker script;
+        PageText& output;
+        std::size_t outputStart;
+        std::size_t copied = 0;  // up to here the text is in the output
+        // A line on which a token was found that had been counted before.
+        std::size_t lineStart = 0;
+        std::size_t lineEnd = 0;
     };
 
-    std::size_t FindPlaceholderLine(std::string_view text, std::size_t from) const;
-    void TranslateLine(const Line& line, std::string& output);
-    bool ReplaceAtOnce(const Line& line, std::string& output);
-    std::string ReplaceInOrder(const Line& line);
-    const IndexedToken* ReplaceUpToNext(const Line& line, TokenNumber done, std::string& text);
-    const IndexedToken* ReplaceGroups(const Line& line, std::string_view text, TokenNumber after,
-                                      const IndexedToken* before, std::string& output);
-    std::string ReplaceToken(const Line& line, std::string_view text, const IndexedToken& token);
-    static void AppendValue(const Line& line, const IndexedToken& token, std::string& output);
-    const IndexedToken* NextIrregular(TokenNumber after) const;
-    TokenNumber LastReplaced() const;
-    void CountReplaced();
+    std::string_view Outline(std::string_view page);
+    void FindGroups(std::string_view text);
+    bool DependsOnOrder(const Group& group) const;
+    void ReplaceByLines(Page& page);
+    void ReplaceLineInOrder(Page& page, std::size_t start, std::size_t end);
+    void ReplaceAtOnce(Page& page, Groups first, Groups last);
+    static void CopyUpTo(Page& page, std::size_t position);
+    void Count(Page& page, const Group& group);
+    void CountEmptyTokens(std::string_view text, Groups first, Groups last);
     void CountEmptyTokensUpTo(TokenNumber last);
-    void SumUpEmptyTokens();
 
     const TokenIndex& tokens_;
     std::vector<std::int32_t>& useCounts_;
-    std::string joinedLines_;
-    std::vector<TokenNumber> replaced_;     // on the line at hand, with repetitions
-    std::vector<std::uint32_t> countedOn_;  // per token: the line it was last counted on
-    std::uint32_t lineNumber_ = 0;
-    std::vector<std::int32_t> linesByEmptyTokens_;  // how many lines looked at so many empty tokens
+    std::string pageWithPairs_;  // when it had other line ends
+    PageOutline outline_;
+    std::vector<Group> groups_;  // of the page at hand, with beginnings of placeholders left open
+    // Per token, where it was last counted. Pages follow one another without ever starting anew.
+    std::vector<std::uint64_t> countedAt_;
+    std::uint64_t pageStart_ = 1;
 };
 
 }  // namespace cvlang

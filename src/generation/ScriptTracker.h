@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
+#include <span>
 #include <string_view>
+
+#include "generation/PageOutline.h"
 
 namespace cvlang {
 
@@ -15,19 +17,26 @@ enum class ScriptMode {
 
 class ScriptTracker {
   public:
-    /// The page must outlive the tracker.
-    ScriptTracker(std::string_view page, ScriptMode mode) : page_(page), mode_(mode) {}
+    /// The page and its outline must outlive the tracker.
+    ScriptTracker(std::string_view page, const PageOutline& outline, ScriptMode mode);
 
-    /// Whether the line that ends at `lineEnd` is script: a line with "</SCRIPT>" is not, otherwise
-    /// one with "<SCRIPT " is, otherwise it is what the line before it was. Asked of lines in
-    /// rising order.
-    bool IsScript(std::size_t lineEnd);
+    /// Whether the line that holds this position is script: a line with "</SCRIPT>" is not,
+    /// otherwise one with "<SCRIPT " is, otherwise it is what the line before it was. Asked of
+    /// lines in rising order.
+    bool IsScript(std::size_t position) {
+        while (position >= nextChange_)
+            TakeNextLine();
+        return inside_;
+    }
 
   private:
+    void TakeNextLine();
+    std::size_t NextLine() const;
+
     std::string_view page_;
-    ScriptMode mode_;
-    std::optional<std::size_t> nextMarker_;  // the page's first one behind the lines asked for
-    bool inside_ = false;
+    std::span<const std::size_t> tags_;  // behind the lines asked for
+    std::size_t nextChange_;             // where the line of the next one begins
+    bool inside_;
 };
 
 }  // namespace cvlang

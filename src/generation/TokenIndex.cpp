@@ -3,10 +3,13 @@
 #include <algorithm>
 #include <bit>
 #include <cstring>
+#include <iterator>
 #include <new>
 #include <optional>
 
 #include "generation/PageEncoding.h"
+#include "generation/PageText.h"
+#include "generation/Placeholders.h"
 #include "platform/Ansi.h"
 
 namespace cvlang {
@@ -18,24 +21,43 @@ std::uint64_t EightBytes(const char* from) {
     return bytes;
 }
 
-/// Eight bytes at a time, the last ones overlapping. The last product spreads what differs, mostly
-/// a few letters, over the bits that are used.
+constexpr std::uint64_t kFactors[] = {0x9E3779B97F4A7C15, 0xC2B2AE3D27D4EB4F, 0x165667B19E3779F9,
+                                      0xD6E8FEB86659FD93, 0xA0761D6478BD642F};
+
+// Nearly all tokens are of such a size. They are read as five pieces, the last ones overlapping,
+// instead of in a loop whose length the processor would have to guess.
+constexpr bool IsOfUsualSize(std::size_t size) {
+    return size >= 8 && size <= 8 * std::size(kFactors);
+}
+
+std::uint64_t Piece(const char* text, std::size_t size, std::size_t number) {
+    return EightBytes(text + std::min(8 * number, size - 8));
+}
+
 std::uint32_t Hash(std::string_view text) {
-    constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15;
     std::uint64_t hash = text.size();
-    const auto add = [&hash](std::uint64_t chunk) {
-        hash = (std::rotl(hash, 23) ^ chunk) * kFactor;
-    };
-    if (text.size() < 8) {
-        for (const char c : text)
-            add(static_cast<unsigned char>(c));
+    if (IsOfUsualSize(text.size())) {
+        for (std::size_t i = 0; i < std::size(kFactors); ++i)
+            hash += Piece(text.data(), text.size(), i) * kFactors[i];
     } else {
-        for (std::size_t i = 0; i + 8 < text.size(); i += 8)
-            add(EightBytes(text.data() + i));
-        add(EightBytes(text.data() + text.size() - 8));
+        for (const char c : text)
+            hash = (hash ^ static_cast<unsigned char>(c)) * kFactors[0];
     }
-    hash = (hash ^ (hash >> 32)) * kFactor;
+    // Spreads what differs, mostly a few letters, over the bits that are used.
+    hash = (hash ^ (hash >> 32)) * kFactors[0];
     return static_cast<std::uint32_t>(hash >> 32);
+}
+
+bool AreEqual(std::string_view a, std::string_view b) {
+    const std::size_t size = a.size();
+    if (size != b.size())
+        return false;
+    if (!IsOfUsualSize(size))
+        return a == b;
+    std::uint64_t difference = 0;
+    for (std::size_t i = 0; i < std::size(kFactors); ++i)
+        difference |= Piece(a.data(), size, i) ^ Piece(b.data(), size, i);
+    return difference == 0;
 }
 
 bool IsGroup(std::string_view token) {
@@ -50,24 +72,23 @@ bool IsQuote(char c) {
 constexpr std::size_t kAlignment = alignof(IndexedToken);
 
 /// Room for all tokens and values at their longest.
-std::size_t MostBytes(const std::vector<std::u16string>& tokens,
-                      const std::vector<std::u16string>& values) {
-    std::size_t bytes = kAlignment + tokens.size() * (sizeof(IndexedToken) + kAlignment);
-    for (const std::u16string& token : tokens)
+std::size_t MostBytes(const TextArray& tokens, const TextArray& values) {
+    std::size_t bytes =
+        PageText::kReadable + kAlignment + tokens.size() * (sizeof(IndexedToken) + kAlignment);
+    for (const auto& token : tokens)
         bytes += token.size() * 2;
-    for (const std::u16string& value : values)
+    for (const auto& value : values)
         bytes += value.size() * 3;
     return bytes;
 }
 
 }  // namespace
 
-TokenIndex::TokenIndex(const std::vector<std::u16string>& arrTokens,
-                       const std::vector<std::u16string>& arrValues)
+TokenIndex::TokenIndex(const TextArray& arrTokens, const TextArray& arrValues)
     : upperBound_(static_cast<TokenNumber>(arrTokens.size()) - 1),
       memory_(std::make_unique_for_overwrite<std::byte[]>(MostBytes(arrTokens, arrValues))),
       used_(kAlignment),  // place 0 stands for none
-      slots_(std::bit_ceil(arrTokens.size() + arrTokens.size() / 4 + 1)) {
+      slots_(std::bit_ceil(2 * arrTokens.size())) {
     // From the last to the first: a token is put before those of the same text.
     for (TokenNumber number = upperBound_; number > 0; --number) {
         const auto i = static_cast<std::size_t>(number);
@@ -100,11 +121,11 @@ IndexedToken& TokenIndex::Store(TokenNumber number, std::string_view token,
     auto* stored = new (memory_.get() + used_) IndexedToken;
     stored->nextAlike_ = nullptr;
     stored->number_ = number;
+    stored->dependsOnOrder_ =
+        !token.starts_with(kPlaceholderPrefix) || value.find('[') != std::string_view::npos;
     stored->tokenLength_ = static_cast<std::uint32_t>(token.size());
     stored->valueLength_ = static_cast<std::uint32_t>(value.size());
     stored->hasQuotes_ = std::any_of(value.begin(), value.end(), IsQuote);
-    stored->dependsOnOrder_ =
-        !token.starts_with(kPlaceholderPrefix) || value.find('[') != std::string_view::npos;
     auto* texts = reinterpret_cast<char*>(memory_.get() + used_ + sizeof(IndexedToken));
     token.copy(texts, token.size());
     value.copy(texts + token.size(), value.size());
@@ -119,16 +140,17 @@ const IndexedToken* TokenIndex::At(const Slot& slot) const {
                : reinterpret_cast<const IndexedToken*>(memory_.get() + slot.place * kAlignment);
 }
 
-std::size_t TokenIndex::FindSlot(std::string_view token, std::uint32_t hash) const {
+inline std::size_t TokenIndex::FindSlot(std::string_view token, std::uint32_t hash) const {
     const std::size_t mask = slots_.size() - 1;
     std::size_t slot = hash & mask;
     while (slots_[slot].place != 0 &&
-           (slots_[slot].hash != hash || At(slots_[slot])->Token() != token))
+           (slots_[slot].hash != hash || !AreEqual(At(slots_[slot])->Token(), token)))
         slot = (slot + 1) & mask;
     return slot;
 }
 
 void TokenIndex::AddGroup(IndexedToken& token) {
+    hasOtherGroups_ = hasOtherGroups_ || !token.Token().starts_with(kPlaceholderPrefix);
     const std::uint32_t hash = Hash(token.Token());
     Slot& slot = slots_[FindSlot(token.Token(), hash)];
     token.nextAlike_ = At(slot);
@@ -141,6 +163,17 @@ const IndexedToken* TokenIndex::FindGroup(std::string_view group, TokenNumber af
     while (token != nullptr && token->number_ <= after)
         token = token->nextAlike_;
     return token;
+}
+
+void TokenIndex::FindGroups(std::string_view page, std::vector<Group>& groups) const {
+    for (Group& group : groups) {
+        group.hash = Hash(page.substr(group.start, group.end - group.start));
+        __builtin_prefetch(&slots_[group.hash & (slots_.size() - 1)]);
+    }
+    for (Group& group : groups) {
+        const std::string_view text = page.substr(group.start, group.end - group.start);
+        group.token = At(slots_[FindSlot(text, group.hash)]);
+    }
 }
 
 }  // namespace cvlang

@@ -8,10 +8,9 @@
 #include <string_view>
 #include <vector>
 
-namespace cvlang {
+#include "translation/TokenMapFile.h"
 
-/// What every placeholder begins with. Lines without it are never looked at.
-inline constexpr std::string_view kPlaceholderPrefix = "[CV_TXT-";
+namespace cvlang {
 
 /// Tokens are known by their index in the array, from 1.
 using TokenNumber = std::int32_t;
@@ -42,18 +41,33 @@ class IndexedToken {
     bool dependsOnOrder_;
 };
 
+/// A text from "[" to "]" without further brackets, on a page.
+struct Group {
+    std::size_t start;
+    std::size_t end;
+    bool isBehindOpenBracket;
+    std::uint32_t hash = 0;  // of its text
+    const IndexedToken* token = nullptr;
+};
+
 class TokenIndex {
   public:
     /// Both arrays begin with an unused element 0 and are equally long. Tokens are turned into ANSI
     /// bytes (one with a character that the code page lacks is found nowhere), values into UTF-8.
-    TokenIndex(const std::vector<std::u16string>& arrTokens,
-               const std::vector<std::u16string>& arrValues);
+    TokenIndex(const TextArray& arrTokens, const TextArray& arrValues);
 
     TokenNumber UpperBound() const { return upperBound_; }
+
+    /// Whether tokens are such groups without beginning as placeholders do.
+    bool HasOtherGroups() const { return hasOtherGroups_; }
 
     /// The first token behind `after` whose text is this group, a text from "[" to "]" without
     /// further brackets; null when there is none.
     const IndexedToken* FindGroup(std::string_view group, TokenNumber after) const;
+
+    /// Sets the token of each group of the page: the first one whose text it is, if there is one.
+    /// Many at once, because the time that fetching from memory takes then passes only once.
+    void FindGroups(std::string_view page, std::vector<Group>& groups) const;
 
     /// Tokens that are not such a group, in order. They have to be searched for one by one.
     const std::vector<const IndexedToken*>& IrregularTokens() const { return irregular_; }
@@ -75,7 +89,8 @@ class TokenIndex {
     TokenNumber upperBound_;
     std::unique_ptr<std::byte[]> memory_;  // all tokens with their texts, one after the other
     std::size_t used_;
-    std::vector<Slot> slots_;  // a power of two, at least a fifth of them free
+    std::vector<Slot> slots_;  // a power of two, at least half of them free
+    bool hasOtherGroups_ = false;
     std::vector<const IndexedToken*> irregular_;
     std::vector<TokenNumber> empty_;
     std::vector<std::uint8_t> encoded_;  // the value at hand

@@ -19,7 +19,7 @@ std::filesystem::path LanguageMapFileIn(std::u16string_view directory, const Con
                            config.GetAuthoringVersion());
 }
 
-void Resize(std::vector<std::u16string>& array, std::size_t upperBound) {
+void Resize(TextArray& array, std::size_t upperBound) {
     array.resize(upperBound + 1);
 }
 
@@ -61,8 +61,7 @@ std::u16string GetTokenValue(const Configuration& config, std::u16string_view cu
 
 void LoadLanguageTokensIntoArrays(const Configuration& config, std::u16string_view ApplicationName,
                                   std::u16string_view BaseName, std::u16string_view LangName,
-                                  std::vector<std::u16string>& arrTokens,
-                                  std::vector<std::u16string>& arrValues) {
+                                  TextArray& arrTokens, TextArray& arrValues) {
     const Utf16File file(LanguageMapFileIn(config.GetApplicationDirectory(), config,
                                            ApplicationName, BaseName, LangName));
     const std::u16string_view text = file.Text();

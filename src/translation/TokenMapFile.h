@@ -7,6 +7,7 @@
 #pragma once
 
 #include <filesystem>
+#include <memory_resource>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,6 +23,9 @@ inline constexpr int kTokenField = 1;
 inline constexpr int kValueField = 2;
 inline constexpr int kReferenceTokenField = 4;
 inline constexpr int kReferenceValueField = 5;
+
+/// Thousands of short texts: whoever fills an array chooses where they lie.
+using TextArray = std::pmr::vector<std::pmr::u16string>;
 
 /// The token of a list entry such as "[CV_TXT-HELLO]: Hello"; a text of any other form is the token
 /// itself.
@@ -49,8 +53,7 @@ std::u16string GetTokenValue(const Configuration& config, std::u16string_view cu
 /// unchanged.
 void LoadLanguageTokensIntoArrays(const Configuration& config, std::u16string_view ApplicationName,
                                   std::u16string_view BaseName, std::u16string_view LangName,
-                                  std::vector<std::u16string>& arrTokens,
-                                  std::vector<std::u16string>& arrValues);
+                                  TextArray& arrTokens, TextArray& arrValues);
 
 /// The same, by the name that generation has for it.
 inline constexpr auto LoadTokens = LoadLanguageTokensIntoArrays;

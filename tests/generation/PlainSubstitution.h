@@ -18,7 +18,7 @@ struct Page {
     std::vector<std::int32_t> useCounts;
 };
 
-inline std::string Encode(const std::u16string& value) {
+inline std::string Encode(std::u16string_view value) {
     std::string bytes;
     for (const char16_t c : value)
         bytes += Utf16ToUtf8({&c, 1});
@@ -52,8 +52,8 @@ inline bool HoldsTag(std::string line, const std::string& upperTag) {
     return Holds(line, upperTag);
 }
 
-inline Page Substitute(const std::string& page, const std::vector<std::u16string>& tokens,
-                       const std::vector<std::u16string>& values, ScriptMode mode) {
+inline Page Substitute(const std::string& page, const TextArray& tokens, const TextArray& values,
+                       ScriptMode mode) {
     Page result{{}, std::vector<std::int32_t>(tokens.size())};
     bool inScript = mode == ScriptMode::Always;
     for (std::string& line : SplitLines(page)) {

@@ -100,7 +100,7 @@ TEST(LanguageTable, TheBuiltInAbbreviationsServeUntilAListFileIsCreated) {
 constexpr char kFrench[] = "WebMail-default-tokens-fr.map";
 
 TEST(TokenMapFile, LinesAreLoadedAtTheirNumbersAndTheFirstWithExactlyTheTokenIsFound) {
-    using Texts = std::vector<std::u16string>;
+    using Texts = TextArray;
     const FakeProgram fake;
     PutFile(kFrench, Utf16Bytes(u"[CV_A] \tblank\r\n\r\n[cv_a]\tcase\r\n[CV_A]\t1\t2\r\n[CV_A]") +
                          "b");  // an odd byte at the end

@@ -1,0 +1,132 @@
+#include "generation/LineInOrder.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "generation/PageEncoding.h"
+#include "generation/Placeholders.h"
+
+namespace cvlang {
+namespace {
+
+bool IsBracket(char c) {
+    return c == '[' || c == ']';
+}
+
+}  // namespace
+
+LineInOrder::LineInOrder(const TokenIndex& tokens, std::string_view line, bool isScript)
+    : tokens_(tokens), isScript_(isScript), text_(line) {
+    while (HoldsPlaceholder(text_)) {
+        const std::size_t replacedBefore = replaced_.size();
+        const IndexedToken* next = ReplaceUpToNext();
+        if (!HoldsPlaceholder(text_)) {
+            for (std::size_t i = replacedBefore; i < replaced_.size(); ++i)
+                lookedAt_ = std::max(lookedAt_, replaced_[i]);
+        } else if (next == nullptr) {
+            lookedAt_ = tokens_.UpperBound();
+            break;
+        } else {
+            lookedAt_ = next->Number();
+            ReplaceToken(*next);
+        }
+    }
+}
+
+std::vector<TokenNumber> LineInOrder::Replaced() const {
+    std::vector<TokenNumber> numbers = replaced_;
+    std::sort(numbers.begin(), numbers.end());
+    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+    return numbers;
+}
+
+/// Replaces the tokens behind those looked at up to the next one whose place in the order matters,
+/// and returns that one; null when there is none.
+const IndexedToken* LineInOrder::ReplaceUpToNext() {
+    const auto replacedBefore = static_cast<std::ptrdiff_t>(replaced_.size());
+    const IndexedToken* next = NextIrregular();
+    for (;;) {
+        std::string changed;
+        const IndexedToken* found = ReplaceGroups(next, changed);
+        if (found == next) {
+            text_.swap(changed);
+            return next;
+        }
+        // An earlier one turned up on the way: only what comes before it counts.
+        replaced_.erase(replaced_.begin() + replacedBefore, replaced_.end());
+        next = found;
+    }
+}
+
+/// Appends the text with each group replaced that is a token behind those looked at and before
+/// `before` (null: up to the last) and whose place in the order does not matter. Returns the first
+/// token between them whose place does matter, or else `before`.
+const IndexedToken* LineInOrder::ReplaceGroups(const IndexedToken* before, std::string& output) {
+    const std::string_view text = text_;
+    std::size_t copied = 0;
+    bool behindOpenBracket = false;
+    std::size_t open = text.find('[');
+    while (open != std::string_view::npos) {
+        const auto bracket = std::find_if(text.begin() + open + 1, text.end(), IsBracket);
+        if (bracket == text.end())
+            break;
+        const auto close = static_cast<std::size_t>(bracket - text.begin());
+        if (text[close] == '[') {
+            behindOpenBracket = true;
+            open = close;
+            continue;
+        }
+        const IndexedToken* token =
+            tokens_.FindGroup(text.substr(open, close + 1 - open), lookedAt_);
+        if (token != nullptr && (before == nullptr || token->Number() < before->Number())) {
+            // Behind an open bracket the value may become part of another placeholder.
+            if (behindOpenBracket || token->DependsOnOrder()) {
+                before = token;
+            } else {
+                output += text.substr(copied, open - copied);
+                AppendValue(*token, output);
+                replaced_.push_back(token->Number());
+                copied = close + 1;
+            }
+        }
+        behindOpenBracket = false;
+        open = text.find('[', close + 1);
+    }
+    output += text.substr(copied);
+    return before;
+}
+
+/// Replaces every occurrence of an irregular or order-dependent token.
+void LineInOrder::ReplaceToken(const IndexedToken& token) {
+    std::string output;
+    std::size_t copied = 0;
+    std::size_t found = text_.find(token.Token());
+    if (found != std::string::npos)
+        replaced_.push_back(token.Number());
+    while (found != std::string::npos) {
+        output.append(text_, copied, found - copied);
+        AppendValue(token, output);
+        copied = found + token.Token().size();
+        found = text_.find(token.Token(), copied);
+    }
+    output.append(text_, copied);
+    text_.swap(output);
+}
+
+void LineInOrder::AppendValue(const IndexedToken& token, std::string& output) const {
+    if (isScript_) {
+        output += EscapeForScript(token.Value());
+    } else {
+        output += token.Value();
+    }
+}
+
+const IndexedToken* LineInOrder::NextIrregular() const {
+    const auto& irregular = tokens_.IrregularTokens();
+    const auto next = std::upper_bound(
+        irregular.begin(), irregular.end(), lookedAt_,
+        [](TokenNumber number, const IndexedToken* token) { return number < token->Number(); });
+    return next == irregular.end() ? nullptr : *next;
+}
+
+}  // namespace cvlang

@@ -1,0 +1,139 @@
+#include "generation/PageOutline.h"
+
+#include <algorithm>
+
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
+namespace cvlang {
+namespace {
+
+// A page is looked at in blocks of so many places, as many as a number has bits.
+constexpr std::size_t kBlock = 64;
+
+// Compared without regard to the case of ASCII letters.
+constexpr std::string_view kOpeningTag = "<SCRIPT ";
+constexpr std::string_view kClosingTag = "</SCRIPT>";
+
+bool StartsWith(std::string_view text, std::string_view upperTag) {
+    return text.size() >= upperTag.size() &&
+           std::equal(upperTag.begin(), upperTag.end(), text.begin(), [](char tag, char c) {
+               return tag == (c >= 'a' && c <= 'z' ? static_cast<char>(c - 0x20) : c);
+           });
+}
+
+// The same questions are asked of one character at a time and of sixteen.
+template <typename Characters>
+auto IsBracket(Characters c) {
+    return c.Is('[') | c.Is(']');
+}
+
+/// Of what "<script " and "</script>" have in common: the beginning, without what may be the first
+/// character.
+template <typename Characters>
+auto MayBeScriptTag(Characters c, Characters next, Characters afterNext) {
+    return (c.Is('<') | c.Is('/')) & next.IsLetter('s') & afterNext.IsLetter('c');
+}
+
+template <typename Characters>
+auto IsBetweenSingles(Characters c, Characters next) {
+    return c.Is('\r') ^ next.Is('\n');
+}
+
+class OneCharacter {
+  public:
+    explicit OneCharacter(const char* at) : c_(*at) {}
+    unsigned Is(char c) const { return c_ == c; }
+    unsigned IsLetter(char lower) const { return (c_ | 0x20) == lower; }
+
+  private:
+    char c_;
+};
+
+#ifdef __SSE2__
+
+class SixteenCharacters {
+  public:
+    explicit SixteenCharacters(const char* at)
+        : c_(_mm_loadu_si128(reinterpret_cast<const __m128i*>(at))) {}
+    __m128i Is(char c) const { return _mm_cmpeq_epi8(c_, _mm_set1_epi8(c)); }
+    __m128i IsLetter(char lower) const {
+        return _mm_cmpeq_epi8(_mm_or_si128(c_, _mm_set1_epi8(0x20)), _mm_set1_epi8(lower));
+    }
+
+  private:
+    __m128i c_;
+};
+
+/// What is found at the places of a block, a bit for each.
+struct Found {
+    std::uint64_t brackets = 0;
+    std::uint64_t scriptTags = 0;
+    bool singles = false;  // a CR or an LF without the other
+};
+
+std::uint64_t Bits(__m128i answers) {
+    return static_cast<std::uint64_t>(_mm_movemask_epi8(answers));
+}
+
+/// A whole block, behind which two more characters can be read.
+Found LookAtBlock(const char* text) {
+    Found found;
+    __m128i singles = _mm_setzero_si128();
+    __m128i scriptTags[4];
+    for (std::size_t i = 0; i < 4; ++i) {
+        const SixteenCharacters c(text + 16 * i);
+        const SixteenCharacters next(text + 16 * i + 1);
+        const SixteenCharacters afterNext(text + 16 * i + 2);
+        found.brackets |= Bits(IsBracket(c)) << 16 * i;
+        scriptTags[i] = MayBeScriptTag(c, next, afterNext);
+        singles |= IsBetweenSingles(c, next);
+    }
+    found.singles = Bits(singles) != 0;
+    if (Bits(scriptTags[0] | scriptTags[1] | scriptTags[2] | scriptTags[3]) != 0) {
+        for (std::size_t i = 0; i < 4; ++i)
+            found.scriptTags |= Bits(scriptTags[i]) << 16 * i;
+    }
+    return found;
+}
+
+#endif
+
+}  // namespace
+
+void PageOutline::Take(std::string_view page) {
+    brackets_.clear();
+    scriptTags_.clear();
+    hasOnlyPairs_ = !page.starts_with('\n') && !page.ends_with('\r');
+    const auto noteScriptTag = [&](std::size_t place) {
+        const std::size_t start = page[place] == '/' && place > 0 ? place - 1 : place;
+        const std::string_view tag = page.substr(start);
+        if (StartsWith(tag, kOpeningTag) || StartsWith(tag, kClosingTag))
+            scriptTags_.push_back(start);
+    };
+    std::size_t start = 0;
+#ifdef __SSE2__
+    for (; page.size() - start >= kBlock + 2; start += kBlock) {
+        const Found found = LookAtBlock(page.data() + start);
+        if (found.brackets != 0)
+            brackets_.push_back({start, found.brackets});
+        for (std::uint64_t bits = found.scriptTags; bits != 0; bits &= bits - 1)
+            noteScriptTag(start + static_cast<std::size_t>(std::countr_zero(bits)));
+        hasOnlyPairs_ = hasOnlyPairs_ && !found.singles;
+    }
+#endif
+    for (std::size_t i = start; i < page.size(); ++i) {
+        const auto at = [&](std::size_t further) {
+            return OneCharacter(page.data() + i + further);
+        };
+        if (IsBracket(at(0)))
+            brackets_.push_back({i, 1});
+        if (i + 1 < page.size() && IsBetweenSingles(at(0), at(1)))
+            hasOnlyPairs_ = false;
+        if (i + 2 < page.size() && MayBeScriptTag(at(0), at(1), at(2)))
+            noteScriptTag(i);
+    }
+}
+
+}  // namespace cvlang

@@ -1,0 +1,44 @@
+// The characters of a page that matter to generation, found in one look at all of them.
+#pragma once
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace cvlang {
+
+class PageOutline {
+  public:
+    /// Notes what the page holds, instead of what was noted before.
+    void Take(std::string_view page);
+
+    /// Whether CR and LF stand nowhere but side by side.
+    bool HasOnlyPairs() const { return hasOnlyPairs_; }
+
+    /// Calls the function with the position of each "[" and "]", in order.
+    template <typename Function>
+    void ForEachBracket(Function function) const {
+        for (const Block& block : brackets_) {
+            for (std::uint64_t bits = block.bits; bits != 0; bits &= bits - 1)
+                function(block.start + static_cast<std::size_t>(std::countr_zero(bits)));
+        }
+    }
+
+    /// Where "<SCRIPT " and "</SCRIPT>" stand, in any case.
+    const std::vector<std::size_t>& ScriptTags() const { return scriptTags_; }
+
+  private:
+    /// A bit for each of so many places that has a bracket.
+    struct Block {
+        std::size_t start;
+        std::uint64_t bits;
+    };
+
+    bool hasOnlyPairs_ = true;
+    std::vector<Block> brackets_;  // only blocks that have some
+    std::vector<std::size_t> scriptTags_;
+};
+
+}  // namespace cvlang
