@@ -6,7 +6,10 @@ install(TARGETS CVLangTranslator RUNTIME)
 # The windows are a module of their own, which nobody but the program loads. Not below lib/: for that CPack
 # would have ldconfig run at each installation.
 install(TARGETS CVLangTranslatorWindow LIBRARY DESTINATION libexec/${package})
-set_target_properties(CVLangTranslator PROPERTIES INSTALL_RPATH "$ORIGIN:$ORIGIN/../libexec/${package}")
+# For the build folder too: CMake would pad its path with empty entries, for which the loader looks in the
+# current folder.
+set_target_properties(CVLangTranslator PROPERTIES INSTALL_RPATH "$ORIGIN:$ORIGIN/../libexec/${package}"
+    BUILD_WITH_INSTALL_RPATH ON)
 
 install(FILES linux/${package}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
