@@ -47,7 +47,7 @@ class Submitting : public MainWindow {
 TEST_F(Submitting, SendsWhatTheUserSeesOnceHeAgrees) {
     ScriptedPeer server("220|250|250|250|354|250");
     Pick(WindowWith(server.Port()), "lstLanguages", u"French");
-    script_.ExpectDialog("frmSend", [this](wxDialog& dialog) {
+    script_.ExpectDialog("frmSend", [](wxDialog& dialog) {
         EXPECT_EQ(Find<TextBox>(dialog, "txtTo").Text(), u"t@x");
         EXPECT_EQ(Find<TextBox>(dialog, "txtAttachments").GetValue(),
                   wxString(kReferenceMap) + ", " + kFrenchMap);

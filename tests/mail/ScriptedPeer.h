@@ -41,7 +41,7 @@ class ScriptedPeer {
 
     /// All that the client has sent, once it is done. The clock is back at its start then.
     std::string Received() {
-        const std::string received = peer_.Received();
+        std::string received = peer_.Received();
         isOver_ = false;
         seconds_ = 0;
         return received;

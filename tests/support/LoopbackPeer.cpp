@@ -1,5 +1,7 @@
 #include "support/LoopbackPeer.h"
 
+#include <stdexcept>
+
 #include "SocketHeaders.h"
 
 namespace cvlang {
@@ -14,9 +16,10 @@ LoopbackListener::LoopbackListener() {
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     socklen_t size = sizeof address;
     auto* const name = reinterpret_cast<sockaddr*>(&address);
-    bind(static_cast<NativeSocket>(socket_), name, size);
-    listen(static_cast<NativeSocket>(socket_), 1);
-    getsockname(static_cast<NativeSocket>(socket_), name, &size);
+    const auto socket = static_cast<NativeSocket>(socket_);
+    if (bind(socket, name, size) != 0 || listen(socket, 1) != 0 ||
+        getsockname(socket, name, &size) != 0)
+        throw std::runtime_error("no port on this machine can be listened to");
     port_ = ntohs(address.sin_port);
 }
 
