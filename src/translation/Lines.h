@@ -19,7 +19,8 @@ class Lines {
     bool Next(View& line) {
         if (rest_.empty())
             return false;
-        const auto isEnd = [](Character c) { return c == '\r' || c == '\n'; };
+        // One comparison for nearly all characters.
+        const auto isEnd = [](Character c) { return c <= '\r' && (c == '\r' || c == '\n'); };
         const auto end = static_cast<std::size_t>(std::find_if(rest_.begin(), rest_.end(), isEnd) -
                                                   rest_.begin());
         line = rest_.substr(0, end);

@@ -76,8 +76,10 @@ void LoadLanguageTokensIntoArrays(const Configuration& config, std::u16string_vi
             Resize(arrTokens, n);
         if (arrValues.size() <= n)
             Resize(arrValues, n);
-        arrTokens[n] = SplitField(line, kTab, kTokenField);
-        arrValues[n] = SplitField(line, kTab, kValueField);
+        const std::u16string_view token = SplitField(line, kTab, kTokenField);
+        arrTokens[n] = token;
+        // Counting goes on behind the token.
+        arrValues[n] = SplitField(line.substr(token.size()), kTab, kValueField);
     }
     if (n > 0) {
         Resize(arrTokens, n);
