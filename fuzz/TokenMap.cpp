@@ -9,12 +9,13 @@ void cvlang::Try(std::string_view input) {
     PutFile(kFile, StoreFile(input));
     TextArray tokens(1, u"held");
     TextArray values(3, u"held");
-    LoadTokens(fake.config, u"WebMail", u"default", u"French", tokens, values);
+    Utf16File file;
+    LoadTokens(fake.config, u"WebMail", u"default", u"French", file, tokens, values);
     const bool isEmpty = StoreFile(input).size() < 4;
     Must(isEmpty || tokens.size() == values.size(), "each token has its value");
     Must(tokens[0] == u"held" && values[0] == u"held", "the first elements stay");
     for (std::size_t i = 1; i < std::min<std::size_t>(tokens.size(), 20); ++i) {
-        TextArray::value_type asked = tokens[i];
+        std::u16string asked(tokens[i]);
         if (asked.find(u"]:") != asked.npos)
             continue;
         const auto first = std::find(tokens.begin() + 1, tokens.end(), asked) - tokens.begin();

@@ -26,10 +26,11 @@ std::optional<std::size_t> FindNext(const std::vector<std::u16string>& entries,
 std::unordered_set<std::u16string> TranslatedTokens(const Program& program,
                                                     std::u16string_view base,
                                                     std::u16string_view language) {
+    Utf16File mapFile;
     TextArray tokens;
     TextArray values;
-    LoadLanguageTokensIntoArrays(program.config, program.CurrentApplication, base, language, tokens,
-                                 values);
+    LoadLanguageTokensIntoArrays(program.config, program.CurrentApplication, base, language,
+                                 mapFile, tokens, values);
     std::unordered_set<std::u16string_view> seen;
     std::unordered_set<std::u16string> translated;
     for (std::size_t i = 1; i < tokens.size(); ++i) {

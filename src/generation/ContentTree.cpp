@@ -1,7 +1,6 @@
 #include "generation/ContentTree.h"
 
 #include <algorithm>
-#include <memory_resource>
 #include <string>
 #include <vector>
 
@@ -91,10 +90,10 @@ bool ApplyTranslation(Program& program, std::u16string_view sApplication, std::u
     });
     if (!PrepareLanguageFolder(program, sApplication, sBase, sLanguage, 1))
         return false;
-    std::pmr::monotonic_buffer_resource memory;
-    TextArray arrTokens(1, &memory);
-    TextArray arrValues(1, &memory);
-    LoadTokens(program.config, sApplication, sBase, sLanguage, arrTokens, arrValues);
+    Utf16File mapFile;
+    TextArray arrTokens(1);
+    TextArray arrValues(1);
+    LoadTokens(program.config, sApplication, sBase, sLanguage, mapFile, arrTokens, arrValues);
     PageTranslator pages(program, sLanguage, sBase, sApplication, arrTokens, arrValues);
     const ContentFolders folders = FoldersOf(program.config, sApplication, sBase, sLanguage);
     if (!folders.areTheDrive)

@@ -61,10 +61,10 @@ std::u16string GetTokenValue(const Configuration& config, std::u16string_view cu
 
 void LoadLanguageTokensIntoArrays(const Configuration& config, std::u16string_view ApplicationName,
                                   std::u16string_view BaseName, std::u16string_view LangName,
-                                  TextArray& arrTokens, TextArray& arrValues) {
-    const Utf16File file(LanguageMapFileIn(config.GetApplicationDirectory(), config,
-                                           ApplicationName, BaseName, LangName));
-    const std::u16string_view text = file.Text();
+                                  Utf16File& file, TextArray& arrTokens, TextArray& arrValues) {
+    Utf16File mapFile(LanguageMapFileIn(config.GetApplicationDirectory(), config, ApplicationName,
+                                        BaseName, LangName));
+    const std::u16string_view text = mapFile.Text();
     const auto lineEnds = static_cast<std::size_t>(std::count(text.begin(), text.end(), u'\n'));
     arrTokens.reserve(lineEnds + 2);
     arrValues.reserve(lineEnds + 2);
@@ -84,6 +84,7 @@ void LoadLanguageTokensIntoArrays(const Configuration& config, std::u16string_vi
     if (n > 0) {
         Resize(arrTokens, n);
         Resize(arrValues, n);
+        file = std::move(mapFile);
     }
 }
 

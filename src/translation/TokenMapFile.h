@@ -7,12 +7,12 @@
 #pragma once
 
 #include <filesystem>
-#include <memory_resource>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "config/Configuration.h"
+#include "translation/Utf16File.h"
 
 namespace cvlang {
 
@@ -24,8 +24,8 @@ inline constexpr int kValueField = 2;
 inline constexpr int kReferenceTokenField = 4;
 inline constexpr int kReferenceValueField = 5;
 
-/// Thousands of short texts: whoever fills an array chooses where they lie.
-using TextArray = std::pmr::vector<std::pmr::u16string>;
+/// Tokens or values; the texts lie elsewhere.
+using TextArray = std::vector<std::u16string_view>;
 
 /// The token of a list entry such as "[CV_TXT-HELLO]: Hello"; a text of any other form is the token
 /// itself.
@@ -49,11 +49,11 @@ std::u16string GetTokenValue(const Configuration& config, std::u16string_view cu
                              std::u16string_view LangName);
 
 /// Loads a language's map file: line k goes to element k of both arrays, element 0 stays as it is,
-/// and both end at the last line. A file that cannot be opened or holds no line leaves them
-/// unchanged.
+/// and both end at the last line. The texts lie in `file` then. A map file that cannot be opened or
+/// holds no line leaves everything unchanged.
 void LoadLanguageTokensIntoArrays(const Configuration& config, std::u16string_view ApplicationName,
                                   std::u16string_view BaseName, std::u16string_view LangName,
-                                  TextArray& arrTokens, TextArray& arrValues);
+                                  Utf16File& file, TextArray& arrTokens, TextArray& arrValues);
 
 /// The same, by the name that generation has for it.
 inline constexpr auto LoadTokens = LoadLanguageTokensIntoArrays;

@@ -14,6 +14,7 @@ inline constexpr std::u16string_view kStoreLineEnd = u"\r\n";
 /// A file's text as it was when it was read.
 class Utf16File {
   public:
+    Utf16File() = default;
     /// Reads a file; the text is empty on failure.
     explicit Utf16File(const std::filesystem::path& path) : status_(ReadFile(path, content_)) {}
 
@@ -26,7 +27,7 @@ class Utf16File {
 
   private:
     FileContent content_;
-    FileStatus status_;
+    FileStatus status_ = FileStatus::NotFound;
 };
 
 /// Makes the text, behind a byte-order mark, the file's whole content. False on failure.

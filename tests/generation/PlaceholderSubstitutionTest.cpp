@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <deque>
 #include <random>
 
 #include "generation/PlainSubstitution.h"
@@ -97,12 +98,15 @@ TEST(PlaceholderSubstitution, ComesToTheSameAsThePlainProcedure) {
     };
     for (int round = 0; round < 60000; ++round) {
         const bool tame = round % 3 == 0;
+        std::deque<std::u16string> texts;
         Texts tokens(1 + random() % 9);
         Texts values(tokens.size());
         for (std::size_t i = 1; i < tokens.size(); ++i) {
-            tokens[i] = tame || random() % 2 == 0 ? kPieces[random() % kPlaceholders]
-                                                  : join(0, kFirstOfPagesAlone, 3);
-            values[i] = join(tame ? kFirstWithoutOpenBracket : 0, kFirstOfPagesAlone, 3);
+            tokens[i] = tame || random() % 2 == 0
+                            ? kPieces[random() % kPlaceholders]
+                            : texts.emplace_back(join(0, kFirstOfPagesAlone, 3));
+            values[i] = texts.emplace_back(
+                join(tame ? kFirstWithoutOpenBracket : 0, kFirstOfPagesAlone, 3));
         }
         const std::string page = Utf16ToAnsi(join(0, std::size(kPieces), 24));
         const auto mode = static_cast<ScriptMode>(random() % 3);

@@ -107,9 +107,10 @@ TEST(TokenMapFile, LinesAreLoadedAtTheirNumbersAndTheFirstWithExactlyTheTokenIsF
     for (const std::size_t held : {std::size_t{1}, std::size_t{10}}) {
         Texts tokens(held, u"held");
         Texts values(held, u"held");
-        LoadTokens(fake.config, u"WebMail", u"default", u"German", tokens, values);
+        Utf16File file;
+        LoadTokens(fake.config, u"WebMail", u"default", u"German", file, tokens, values);
         EXPECT_EQ(tokens, Texts(held, u"held"));  // as no file is there
-        LoadTokens(fake.config, u"WebMail", u"default", u"French", tokens, values);
+        LoadTokens(fake.config, u"WebMail", u"default", u"French", file, tokens, values);
         EXPECT_EQ(tokens, (Texts{u"held", u"[CV_A] ", u"", u"[cv_a]", u"[CV_A]", u"[CV_A]"}));
         EXPECT_EQ(values, (Texts{u"held", u"blank", u"", u"case", u"1", u""}));
     }
