@@ -4,17 +4,8 @@
 #include <cstddef>
 
 #include "generation/PageEncoding.h"
-#include "generation/Placeholders.h"
 
 namespace cvlang {
-namespace {
-
-bool IsBracket(char c) {
-    return c == '[' || c == ']';
-}
-
-}  // namespace
-
 LineInOrder::LineInOrder(const TokenIndex& tokens, std::string_view line, bool isScript)
     : tokens_(tokens), isScript_(isScript), text_(line) {
     while (HoldsPlaceholder(text_)) {
@@ -63,34 +54,22 @@ const IndexedToken* LineInOrder::ReplaceUpToNext() {
 /// token between them whose place does matter, or else `before`.
 const IndexedToken* LineInOrder::ReplaceGroups(const IndexedToken* before, std::string& output) {
     const std::string_view text = text_;
+    outline_.Take(text);
+    FindGroups(text, outline_, tokens_.HasOtherGroups(), groups_);
     std::size_t copied = 0;
-    bool behindOpenBracket = false;
-    std::size_t open = text.find('[');
-    while (open != std::string_view::npos) {
-        const auto bracket = std::find_if(text.begin() + open + 1, text.end(), IsBracket);
-        if (bracket == text.end())
-            break;
-        const auto close = static_cast<std::size_t>(bracket - text.begin());
-        if (text[close] == '[') {
-            behindOpenBracket = true;
-            open = close;
+    for (const Group& group : groups_) {
+        const IndexedToken* token = tokens_.FindGroup(group.In(text), lookedAt_);
+        if (token == nullptr || (before != nullptr && token->Number() >= before->Number()))
+            continue;
+        // Behind an open bracket the value may become part of another placeholder.
+        if (group.isBehindOpenBracket || token->DependsOnOrder()) {
+            before = token;
             continue;
         }
-        const IndexedToken* token =
-            tokens_.FindGroup(text.substr(open, close + 1 - open), lookedAt_);
-        if (token != nullptr && (before == nullptr || token->Number() < before->Number())) {
-            // Behind an open bracket the value may become part of another placeholder.
-            if (behindOpenBracket || token->DependsOnOrder()) {
-                before = token;
-            } else {
-                output += text.substr(copied, open - copied);
-                AppendValue(*token, output);
-                replaced_.push_back(token->Number());
-                copied = close + 1;
-            }
-        }
-        behindOpenBracket = false;
-        open = text.find('[', close + 1);
+        output += text.substr(copied, group.start - copied);
+        AppendValue(*token, output);
+        replaced_.push_back(token->Number());
+        copied = group.end;
     }
     output += text.substr(copied);
     return before;
@@ -114,7 +93,7 @@ void LineInOrder::ReplaceToken(const IndexedToken& token) {
 }
 
 void LineInOrder::AppendValue(const IndexedToken& token, std::string& output) const {
-    if (isScript_) {
+    if (isScript_ && token.HasQuotes()) {
         output += EscapeForScript(token.Value());
     } else {
         output += token.Value();

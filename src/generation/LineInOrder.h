@@ -34,6 +34,8 @@ class LineInOrder {
     std::string text_;
     TokenNumber lookedAt_ = 0;
     std::vector<TokenNumber> replaced_;  // with repetitions
+    PageOutline outline_;
+    std::vector<Group> groups_;
 };
 
 }  // namespace cvlang

@@ -4,15 +4,13 @@
 
 namespace cvlang {
 
-std::string WithPairs(std::string_view page) {
-    std::string pairs;
-    pairs.reserve(page.size());
+void EndLinesByPairs(std::string_view page, PageText& pairs) {
+    pairs.Truncate(0);
     Lines<char> lines(page);
     for (std::string_view line; lines.Next(line);) {
-        pairs += line;
-        pairs += kPageLineEnd;
+        pairs.Append(line);
+        pairs.Append(kPageLineEnd);
     }
-    return pairs;
 }
 
 }  // namespace cvlang

@@ -9,9 +9,6 @@
 namespace cvlang {
 namespace {
 
-// A page is looked at in blocks of so many places, as many as a number has bits.
-constexpr std::size_t kBlock = 64;
-
 // Compared without regard to the case of ASCII letters.
 constexpr std::string_view kOpeningTag = "<SCRIPT ";
 constexpr std::string_view kClosingTag = "</SCRIPT>";
@@ -29,15 +26,14 @@ auto IsBracket(Characters c) {
     return c.Is('[') | c.Is(']');
 }
 
-/// Of what "<script " and "</script>" have in common: the beginning, without what may be the first
-/// character.
+/// Whether "<" or "/", the closing tag's second character, stands before "sc".
 template <typename Characters>
 auto MayBeScriptTag(Characters c, Characters next, Characters afterNext) {
     return (c.Is('<') | c.Is('/')) & next.IsLetter('s') & afterNext.IsLetter('c');
 }
 
 template <typename Characters>
-auto IsBetweenSingles(Characters c, Characters next) {
+auto BreaksPair(Characters c, Characters next) {
     return c.Is('\r') ^ next.Is('\n');
 }
 
@@ -52,6 +48,9 @@ class OneCharacter {
 };
 
 #ifdef __SSE2__
+
+// Looked at together: as many places as a number has bits.
+constexpr std::size_t kBlock = 64;
 
 class SixteenCharacters {
   public:
@@ -88,7 +87,7 @@ Found LookAtBlock(const char* text) {
         const SixteenCharacters afterNext(text + 16 * i + 2);
         found.brackets |= Bits(IsBracket(c)) << 16 * i;
         scriptTags[i] = MayBeScriptTag(c, next, afterNext);
-        singles |= IsBetweenSingles(c, next);
+        singles |= BreaksPair(c, next);
     }
     found.singles = Bits(singles) != 0;
     if (Bits(scriptTags[0] | scriptTags[1] | scriptTags[2] | scriptTags[3]) != 0) {
@@ -129,7 +128,7 @@ void PageOutline::Take(std::string_view page) {
         };
         if (IsBracket(at(0)))
             brackets_.push_back({i, 1});
-        if (i + 1 < page.size() && IsBetweenSingles(at(0), at(1)))
+        if (i + 1 < page.size() && BreaksPair(at(0), at(1)))
             hasOnlyPairs_ = false;
         if (i + 2 < page.size() && MayBeScriptTag(at(0), at(1), at(2)))
             noteScriptTag(i);

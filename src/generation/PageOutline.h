@@ -30,7 +30,7 @@ class PageOutline {
     const std::vector<std::size_t>& ScriptTags() const { return scriptTags_; }
 
   private:
-    /// A bit for each of so many places that has a bracket.
+    /// A bit for each bracket of the places from `start`.
     struct Block {
         std::size_t start;
         std::uint64_t bits;

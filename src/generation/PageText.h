@@ -14,7 +14,7 @@ namespace cvlang {
 /// Grows at its end, as a string does, and takes many short pieces faster.
 class PageText {
   public:
-    /// Behind each piece that is appended by AppendShort so many bytes can be read.
+    /// So many bytes can be read from the start of each piece that is given to AppendShort.
     static constexpr std::size_t kReadable = 64;
 
     std::string_view View() const { return {buffer_.get(), size_}; }

@@ -67,6 +67,7 @@ void PageTranslator::TranslateFile(const Folder& folder, const fs::path& name, b
         // A page too large for this machine is one that cannot be read.
         source_ = {};
         page_ = {};
+        substitution_.ReleaseMemory();
     }
     // A log that cannot be written must not keep the other pages from being translated.
     [[maybe_unused]] const auto ignored = program_.logs.LogTranslationEvent(

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "generation/LineInOrder.h"
 #include "generation/PageEncoding.h"
 #include "generation/PageLines.h"
-#include "generation/Placeholders.h"
 
 namespace cvlang {
 namespace {
@@ -14,29 +14,24 @@ namespace {
 // Tokens are numbered with 16 bits; installations rely on pages being left alone beyond that.
 constexpr TokenNumber kMostTokens = std::numeric_limits<std::int16_t>::max();
 
-std::size_t LineStart(std::string_view text, std::size_t position) {
-    // Without a line's end before it, npos + 1 is the page's start.
-    return text.rfind('\n', position) + 1;
-}
-
-std::size_t LineEnd(std::string_view text, std::size_t position) {
-    return std::min(text.find('\r', position), text.size());
-}
-
 }  // namespace
 
 PlaceholderSubstitution::PlaceholderSubstitution(const TokenIndex& tokens,
                                                  std::vector<std::int32_t>& useCounts)
     : tokens_(tokens),
       useCounts_(useCounts),
-      countedAt_(static_cast<std::size_t>(tokens.UpperBound()) + 1) {}
+      countedAt_(static_cast<std::size_t>(tokens.UpperBound()) + 1),
+      linesByEmptyTokens_(tokens.EmptyTokens().size() + 1) {}
 
 bool PlaceholderSubstitution::Translate(std::string_view page, ScriptMode mode, PageText& output) {
     const std::string_view text = Outline(page);
     if (tokens_.UpperBound() > kMostTokens && HoldsPlaceholder(text))
         return false;
     Page state{text, ScriptTracker(text, outline_, mode), output, output.Size()};
-    FindGroups(text);
+    pageStart_ = nextPageStart_;
+    nextPageStart_ += text.size();
+    FindGroups(text, outline_, tokens_.HasOtherGroups(), groups_);
+    tokens_.LookUp(text, groups_);
     if (std::any_of(groups_.begin(), groups_.end(),
                     [this](const Group& group) { return DependsOnOrder(group); })) {
         ReplaceByLines(state);
@@ -44,42 +39,27 @@ bool PlaceholderSubstitution::Translate(std::string_view page, ScriptMode mode, 
         ReplaceAtOnce(state, groups_.begin(), groups_.end());
     }
     CopyUpTo(state, text.size());
-    pageStart_ += text.size();
+    SumUpEmptyTokens();
     return true;
+}
+
+void PlaceholderSubstitution::ReleaseMemory() {
+    pageWithPairs_ = PageText();
+    outline_ = PageOutline();
+    groups_ = std::vector<Group>();
 }
 
 /// The page's lines, joined by CR LF, without the last line's end, and outlined.
 std::string_view PlaceholderSubstitution::Outline(std::string_view page) {
     outline_.Take(page);
     if (!outline_.HasOnlyPairs()) {
-        pageWithPairs_ = WithPairs(page);
-        page = pageWithPairs_;
+        EndLinesByPairs(page, pageWithPairs_);
+        page = pageWithPairs_.View();
         outline_.Take(page);
     }
     if (page.ends_with(kPageLineEnd))
         page.remove_suffix(kPageLineEnd.size());
     return page;
-}
-
-void PlaceholderSubstitution::FindGroups(std::string_view text) {
-    constexpr std::size_t kNone = std::string_view::npos;
-    groups_.clear();
-    bool isBehindOpenBracket = false;
-    std::size_t open = kNone;
-    const auto note = [&](std::size_t end) {
-        if (IsPlaceholderAt(text, open) || (end != open && tokens_.HasOtherGroups()))
-            groups_.push_back({open, end, isBehindOpenBracket});
-        isBehindOpenBracket = end == open;
-    };
-    outline_.ForEachBracket([&](std::size_t place) {
-        const bool closes = text[place] == ']';
-        if (open != kNone)
-            note(closes ? place + 1 : open);
-        open = closes ? kNone : place;
-    });
-    if (open != kNone)
-        note(open);
-    tokens_.FindGroups(text, groups_);
 }
 
 /// Whether it matters in which order tokens are replaced on the line of that group.
@@ -157,8 +137,6 @@ void PlaceholderSubstitution::Count(Page& page, const Group& group) {
     ++useCounts_[index];
 }
 
-/// Every line contains the empty token, so that all of them up to the last token looked at count as
-/// replaced: all on a line where a placeholder is left.
 void PlaceholderSubstitution::CountEmptyTokens(std::string_view text, Groups first, Groups last) {
     while (first != last) {
         const std::size_t end = LineEnd(text, first->start);
@@ -167,18 +145,26 @@ void PlaceholderSubstitution::CountEmptyTokens(std::string_view text, Groups fir
             if (first->token != nullptr) {
                 lookedAt = std::max(lookedAt, first->token->Number());
             } else if (IsPlaceholderAt(text, first->start)) {
-                lookedAt = tokens_.UpperBound();
+                lookedAt = tokens_.UpperBound();  // as a placeholder is left
             }
         }
         CountEmptyTokensUpTo(lookedAt);
     }
 }
 
+/// Every line contains the empty token, so that all of them up to the last token looked at count as
+/// replaced.
 void PlaceholderSubstitution::CountEmptyTokensUpTo(TokenNumber last) {
-    for (const TokenNumber number : tokens_.EmptyTokens()) {
-        if (number > last)
-            break;
-        ++useCounts_[static_cast<std::size_t>(number)];
+    const auto& empty = tokens_.EmptyTokens();
+    const auto lookedAt = std::upper_bound(empty.begin(), empty.end(), last) - empty.begin();
+    ++linesByEmptyTokens_[static_cast<std::size_t>(lookedAt)];
+}
+
+void PlaceholderSubstitution::SumUpEmptyTokens() {
+    std::int32_t lines = 0;
+    for (std::size_t i = tokens_.EmptyTokens().size(); i > 0; --i) {
+        lines += std::exchange(linesByEmptyTokens_[i], 0);
+        useCounts_[static_cast<std::size_t>(tokens_.EmptyTokens()[i - 1])] += lines;
     }
 }
 

@@ -8,13 +8,14 @@
 // through its tokens in order. docs/architecture.md says why.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <string>
 #include <string_view>
 #include <vector>
 
 #include "generation/PageOutline.h"
 #include "generation/PageText.h"
+#include "generation/Placeholders.h"
 #include "generation/ScriptTracker.h"
 #include "generation/TokenIndex.h"
 
@@ -32,6 +33,9 @@ class PlaceholderSubstitution {
     /// use.
     bool Translate(std::string_view page, ScriptMode mode, PageText& output);
 
+    /// Gives the memory back that is kept from page to page.
+    void ReleaseMemory();
+
   private:
     using Groups = std::vector<Group>::const_iterator;
     struct Page {
@@ -46,7 +50,6 @@ class PlaceholderSubstitution {
     };
 
     std::string_view Outline(std::string_view page);
-    void FindGroups(std::string_view text);
     bool DependsOnOrder(const Group& group) const;
     void ReplaceByLines(Page& page);
     void ReplaceLineInOrder(Page& page, std::size_t start, std::size_t end);
@@ -55,15 +58,19 @@ class PlaceholderSubstitution {
     void Count(Page& page, const Group& group);
     void CountEmptyTokens(std::string_view text, Groups first, Groups last);
     void CountEmptyTokensUpTo(TokenNumber last);
+    void SumUpEmptyTokens();
 
     const TokenIndex& tokens_;
     std::vector<std::int32_t>& useCounts_;
-    std::string pageWithPairs_;  // when it had other line ends
+    // Of the page at hand.
+    PageText pageWithPairs_;  // when it had other line ends
     PageOutline outline_;
-    std::vector<Group> groups_;  // of the page at hand, with beginnings of placeholders left open
+    std::vector<Group> groups_;
     // Per token, where it was last counted. Pages follow one another without ever starting anew.
     std::vector<std::uint64_t> countedAt_;
-    std::uint64_t pageStart_ = 1;
+    std::uint64_t pageStart_ = 0;
+    std::uint64_t nextPageStart_ = 1;
+    std::vector<std::int32_t> linesByEmptyTokens_;  // how many lines looked at so many empty tokens
 };
 
 }  // namespace cvlang

@@ -1,6 +1,6 @@
 #include "generation/ScriptTracker.h"
 
-#include <algorithm>
+#include "generation/PageLines.h"
 
 namespace cvlang {
 
@@ -13,12 +13,11 @@ ScriptTracker::ScriptTracker(std::string_view page, const PageOutline& outline, 
 
 /// Where the next line with a tag begins; npos when there is none.
 std::size_t ScriptTracker::NextLine() const {
-    // Without a line's end before it, npos + 1 is the page's start.
-    return tags_.empty() ? std::string_view::npos : page_.rfind('\n', tags_.front()) + 1;
+    return tags_.empty() ? std::string_view::npos : LineStart(page_, tags_.front());
 }
 
 void ScriptTracker::TakeNextLine() {
-    const std::size_t end = std::min(page_.find('\n', tags_.front()), page_.size());
+    const std::size_t end = LineEnd(page_, tags_.front());
     inside_ = true;
     for (; !tags_.empty() && tags_.front() < end; tags_ = tags_.subspan(1)) {
         const bool closes = page_[tags_.front() + 1] == '/';

@@ -6,10 +6,10 @@
 #include <iterator>
 #include <new>
 #include <optional>
+#include <string>
 
 #include "generation/PageEncoding.h"
 #include "generation/PageText.h"
-#include "generation/Placeholders.h"
 #include "platform/Ansi.h"
 
 namespace cvlang {
@@ -71,12 +71,12 @@ bool IsQuote(char c) {
 
 constexpr std::size_t kAlignment = alignof(IndexedToken);
 
-/// Room for all tokens and values at their longest.
+/// Room for all tokens, in whatever code page, and values at their longest.
 std::size_t MostBytes(const TextArray& tokens, const TextArray& values) {
     std::size_t bytes =
         PageText::kReadable + kAlignment + tokens.size() * (sizeof(IndexedToken) + kAlignment);
     for (const auto& token : tokens)
-        bytes += token.size() * 2;
+        bytes += token.size() * 4;
     for (const auto& value : values)
         bytes += value.size() * 3;
     return bytes;
@@ -140,7 +140,7 @@ const IndexedToken* TokenIndex::At(const Slot& slot) const {
                : reinterpret_cast<const IndexedToken*>(memory_.get() + slot.place * kAlignment);
 }
 
-inline std::size_t TokenIndex::FindSlot(std::string_view token, std::uint32_t hash) const {
+std::size_t TokenIndex::FindSlot(std::string_view token, std::uint32_t hash) const {
     const std::size_t mask = slots_.size() - 1;
     std::size_t slot = hash & mask;
     while (slots_[slot].place != 0 &&
@@ -165,15 +165,13 @@ const IndexedToken* TokenIndex::FindGroup(std::string_view group, TokenNumber af
     return token;
 }
 
-void TokenIndex::FindGroups(std::string_view page, std::vector<Group>& groups) const {
+void TokenIndex::LookUp(std::string_view page, std::vector<Group>& groups) const {
     for (Group& group : groups) {
-        group.hash = Hash(page.substr(group.start, group.end - group.start));
+        group.hash = Hash(group.In(page));
         __builtin_prefetch(&slots_[group.hash & (slots_.size() - 1)]);
     }
-    for (Group& group : groups) {
-        const std::string_view text = page.substr(group.start, group.end - group.start);
-        group.token = At(slots_[FindSlot(text, group.hash)]);
-    }
+    for (Group& group : groups)
+        group.token = At(slots_[FindSlot(group.In(page), group.hash)]);
 }
 
 }  // namespace cvlang

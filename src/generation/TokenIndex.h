@@ -4,10 +4,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <string>
 #include <string_view>
 #include <vector>
 
+#include "generation/Placeholders.h"
 #include "translation/TokenMapFile.h"
 
 namespace cvlang {
@@ -41,15 +41,6 @@ class IndexedToken {
     bool dependsOnOrder_;
 };
 
-/// A text from "[" to "]" without further brackets, on a page.
-struct Group {
-    std::size_t start;
-    std::size_t end;
-    bool isBehindOpenBracket;
-    std::uint32_t hash = 0;  // of its text
-    const IndexedToken* token = nullptr;
-};
-
 class TokenIndex {
   public:
     /// Both arrays begin with an unused element 0 and are equally long. Tokens are turned into ANSI
@@ -58,18 +49,17 @@ class TokenIndex {
 
     TokenNumber UpperBound() const { return upperBound_; }
 
-    /// Whether tokens are such groups without beginning as placeholders do.
+    /// Whether there are tokens that are groups without beginning as placeholders do.
     bool HasOtherGroups() const { return hasOtherGroups_; }
 
-    /// The first token behind `after` whose text is this group, a text from "[" to "]" without
-    /// further brackets; null when there is none.
+    /// The first token behind `after` whose text is this group's; null when there is none.
     const IndexedToken* FindGroup(std::string_view group, TokenNumber after) const;
 
-    /// Sets the token of each group of the page: the first one whose text it is, if there is one.
+    /// Sets the token of each of the page's groups: the first one of its text, if there is one.
     /// Many at once, because the time that fetching from memory takes then passes only once.
-    void FindGroups(std::string_view page, std::vector<Group>& groups) const;
+    void LookUp(std::string_view page, std::vector<Group>& groups) const;
 
-    /// Tokens that are not such a group, in order. They have to be searched for one by one.
+    /// Tokens that are not groups, in order. They have to be searched for one by one.
     const std::vector<const IndexedToken*>& IrregularTokens() const { return irregular_; }
     /// Blank lines of the map file, in order.
     const std::vector<TokenNumber>& EmptyTokens() const { return empty_; }

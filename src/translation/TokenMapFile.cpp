@@ -1,6 +1,7 @@
 #include "translation/TokenMapFile.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "config/TextHelpers.h"
 #include "translation/LanguageTable.h"
@@ -65,6 +66,9 @@ void LoadLanguageTokensIntoArrays(const Configuration& config, std::u16string_vi
     Utf16File mapFile(LanguageMapFileIn(config.GetApplicationDirectory(), config, ApplicationName,
                                         BaseName, LangName));
     const std::u16string_view text = mapFile.Text();
+    if (text.empty())
+        return;
+    file = std::move(mapFile);  // the text stays where it is
     const auto lineEnds = static_cast<std::size_t>(std::count(text.begin(), text.end(), u'\n'));
     arrTokens.reserve(lineEnds + 2);
     arrValues.reserve(lineEnds + 2);
@@ -76,16 +80,12 @@ void LoadLanguageTokensIntoArrays(const Configuration& config, std::u16string_vi
             Resize(arrTokens, n);
         if (arrValues.size() <= n)
             Resize(arrValues, n);
-        const std::u16string_view token = SplitField(line, kTab, kTokenField);
-        arrTokens[n] = token;
+        arrTokens[n] = SplitField(line, kTab, kTokenField);
         // Counting goes on behind the token.
-        arrValues[n] = SplitField(line.substr(token.size()), kTab, kValueField);
+        arrValues[n] = SplitField(line.substr(arrTokens[n].size()), kTab, kValueField);
     }
-    if (n > 0) {
-        Resize(arrTokens, n);
-        Resize(arrValues, n);
-        file = std::move(mapFile);
-    }
+    Resize(arrTokens, n);
+    Resize(arrValues, n);
 }
 
 }  // namespace cvlang

@@ -5,11 +5,13 @@
 #include <algorithm>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "generation/ScriptTracker.h"
 #include "platform/Ansi.h"
 #include "platform/Utf8.h"
+#include "translation/TokenMapFile.h"
 
 namespace cvlang::plain {
 
