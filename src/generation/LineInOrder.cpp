@@ -6,6 +6,7 @@
 #include "generation/PageEncoding.h"
 
 namespace cvlang {
+
 LineInOrder::LineInOrder(const TokenIndex& tokens, std::string_view line, bool isScript)
     : tokens_(tokens), isScript_(isScript), text_(line) {
     while (HoldsPlaceholder(text_)) {
