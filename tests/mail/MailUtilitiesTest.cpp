@@ -25,6 +25,14 @@ TEST(MailDate, TheZoneOfThePresentTimeRoundsItsHoursAndSignsBothFields) {
               "Sun, 7 Mar 2004 09:05:03 +0300");
 }
 
+TEST(MailDate, DaysAndMonthsHaveTheirNames) {
+    std::string names;
+    for (int i = 0; i < 12; ++i)
+        names.append(GetDayName({2004, 3, 7 + i, 0, 0, 0}))
+            .append(GetMonthName({2004, i + 1, 1, 0, 0, 0}));
+    EXPECT_EQ(names, "SunJanMonFebTueMarWedAprThuMayFriJunSatJulSunAugMonSepTueOctWedNovThuDec");
+}
+
 TEST(MimeNames, AreMadeOfAFreshGuidWithItsShortBytes) {
     const auto guid = [] {
         return std::optional(Guid{0xABC, 1, 0xFFFF, {0, 9, 0x0A, 0x0F, 0x10, 0x1E, 0xA0, 0xFF}});
