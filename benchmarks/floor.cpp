@@ -1,5 +1,5 @@
-// The lower bound of "copy, then rewrite in place": copies the reference folder into the language
-// folder, then reads each page file of the copy, deletes it and writes the same bytes anew.
+// The lower bound of "copy, then delete and write each page": copies the reference folder into the
+// language folder, then reads each page file of the copy, deletes it and writes its bytes anew.
 
 #include "yardstick.h"
 

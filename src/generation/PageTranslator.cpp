@@ -85,9 +85,7 @@ void PageTranslator::RewriteFile(const Folder& folder, const fs::path& name, boo
     if (!destination.empty()) {
         WriteElsewhere(FindExisting(destination / name));
     } else {
-        RemoveWritableFile(folder, name);
-        if (!WriteFile(folder, name, PageBytes()))
-            RemoveWritableFile(folder, name);
+        WriteFileAnew(folder, name, PageBytes());
     }
 }
 

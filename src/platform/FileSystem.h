@@ -62,8 +62,12 @@ FileStatus ReadFile(const std::filesystem::path& path, FileContent& content);
 
 /// Makes the bytes the file's whole content. False on failure, also for a read-only file; what the
 /// disk still took then stays.
-bool WriteFile(const Folder& folder, const std::filesystem::path& name, std::string_view bytes);
 bool WriteFile(const std::filesystem::path& path, std::string_view bytes);
+
+/// Deletes a file that is known not to be read-only and writes it anew. On Linux it is written over
+/// instead, which keeps its owner and permissions, unless it has a second name somewhere. When it
+/// cannot be written there is no such file afterwards.
+void WriteFileAnew(const Folder& folder, const std::filesystem::path& name, std::string_view bytes);
 
 /// Writes at the end of a file, creating it when it is missing.
 std::error_code AppendToFile(const std::filesystem::path& path, std::string_view bytes);
@@ -73,9 +77,6 @@ bool EntryExists(const std::filesystem::path& path);
 
 /// Deletes a file; a read-only one stays. False when it is still there afterwards.
 bool RemoveFile(const std::filesystem::path& path);
-
-/// Deletes a file that is known not to be read-only.
-bool RemoveWritableFile(const Folder& folder, const std::filesystem::path& name);
 
 /// Gives a file another name in the same folder. False when that name is taken, or when there is no
 /// such file.

@@ -143,20 +143,26 @@ TEST_F(ContentTree, LinksAreFollowedInTheReferenceFolderUnlessTheyLeadBackAndNev
     const fs::path outside = fake.folder / "outside";
     PutFile(sys / "shared" / "c.asp", "fresh");
     PutFile(fake.folder / "elsewhere" / "b.asp", "[CV_TXT-A]");
-    PutFile(outside / "c.asp", "[CV_TXT-A]");
+    PutFile(outside / "c.asp", "\r\n[CV_TXT-A]");
     fs::create_directories(fr);
     std::error_code failed;
     fs::create_directory_symlink(fake.folder / "elsewhere", sys / "linked", failed);
     fs::create_directory_symlink(fake.folder.Path(), sys / "back", failed);
     fs::create_directory_symlink(sys, fake.folder / "elsewhere" / "round", failed);
     fs::create_directory_symlink(outside, fr / "shared", failed);
+    PutFile(sys / "copied.asp", "[CV_TXT-A]");
+    for (const char* name : {"copied.asp", "hard.asp"})
+        fs::create_hard_link(outside / "c.asp", fr / name, failed);
+    fs::create_symlink(outside / "c.asp", fr / "soft.asp", failed);
     if (failed)
         GTEST_SKIP() << "this system makes no links: " << failed.message();
     Apply();
     EXPECT_EQ(FileBytes(fr / "linked" / "b.asp"), kMark + "valeur");
     EXPECT_FALSE(fs::exists(fr / "back"));
     EXPECT_FALSE(fs::exists(fr / "linked" / "round"));
-    EXPECT_EQ(FileBytes(outside / "c.asp"), "[CV_TXT-A]");
+    for (const char* name : {"copied.asp", "hard.asp", "soft.asp"})
+        EXPECT_EQ(FileBytes(fr / name), kMark + "valeur") << name;
+    EXPECT_EQ(FileBytes(outside / "c.asp"), "\r\n[CV_TXT-A]");
 }
 
 TEST_F(ContentTree, OnlyAScriptFileIsScriptThroughoutAndAMissingPageIsLogged) {

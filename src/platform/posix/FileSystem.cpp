@@ -61,6 +61,19 @@ bool Write(const Place& place, std::string_view bytes) {
     return file.Close() && written;
 }
 
+/// Writes over an existing file, which is much cheaper than deleting and creating it. False when
+/// that did not succeed, or would write to a file of another name too.
+bool WriteOver(const Place& place, std::string_view bytes) {
+    Descriptor file(Open(place, O_WRONLY | O_NOFOLLOW));
+    struct stat existing {};
+    if (!file.IsOpen() || fstat(file.Number(), &existing) != 0 || existing.st_nlink != 1)
+        return false;
+    const auto size = static_cast<off_t>(bytes.size());
+    const bool written =
+        WriteAll(file, bytes) && (existing.st_size <= size || ftruncate(file.Number(), size) == 0);
+    return file.Close() && written;
+}
+
 }  // namespace
 
 Folder::Folder(const fs::path& path)
@@ -100,12 +113,17 @@ FileStatus ReadFile(const fs::path& path, FileContent& content) {
     return ReadFile(Folder(FindExisting(FolderOf(path))), path.filename(), content);
 }
 
-bool WriteFile(const Folder& folder, const fs::path& name, std::string_view bytes) {
-    return Write({folder, name}, bytes);
-}
-
 bool WriteFile(const fs::path& path, std::string_view bytes) {
     return Write(Place(path), bytes);
+}
+
+void WriteFileAnew(const Folder& folder, const fs::path& name, std::string_view bytes) {
+    const Place place(folder, name);
+    if (WriteOver(place, bytes))
+        return;
+    Remove(place);
+    if (!Write(place, bytes))
+        Remove(place);
 }
 
 std::error_code AppendToFile(const fs::path& path, std::string_view bytes) {
@@ -118,10 +136,6 @@ std::error_code AppendToFile(const fs::path& path, std::string_view bytes) {
 bool EntryExists(const fs::path& path) {
     std::error_code ignored;
     return fs::exists(FindExisting(path), ignored);
-}
-
-bool RemoveWritableFile(const Folder& folder, const fs::path& name) {
-    return Remove({folder, name});
 }
 
 bool RemoveFile(const fs::path& path) {

@@ -93,13 +93,16 @@ FileStatus ReadFile(const fs::path& path, FileContent& content) {
     return ReadFile(Folder(path.parent_path()), path.filename(), content);
 }
 
-bool WriteFile(const Folder& folder, const fs::path& name, std::string_view bytes) {
-    return WriteFile(folder.Path() / name, bytes);
-}
-
 bool WriteFile(const fs::path& path, std::string_view bytes) {
     const FileHandle file(path, GENERIC_WRITE, CREATE_ALWAYS);
     return file.IsOpen() && WriteAll(file, bytes);
+}
+
+void WriteFileAnew(const Folder& folder, const fs::path& name, std::string_view bytes) {
+    const fs::path path = folder.Path() / name;
+    RemoveFile(path);
+    if (!WriteFile(path, bytes))
+        RemoveFile(path);
 }
 
 std::error_code AppendToFile(const fs::path& path, std::string_view bytes) {
@@ -111,10 +114,6 @@ std::error_code AppendToFile(const fs::path& path, std::string_view bytes) {
 
 bool EntryExists(const fs::path& path) {
     return GetFileAttributesW(LongPath(path).c_str()) != INVALID_FILE_ATTRIBUTES;
-}
-
-bool RemoveWritableFile(const Folder& folder, const fs::path& name) {
-    return RemoveFile(folder.Path() / name);
 }
 
 bool RemoveFile(const fs::path& path) {
