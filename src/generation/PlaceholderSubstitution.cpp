@@ -32,11 +32,11 @@ bool PlaceholderSubstitution::Translate(std::string_view page, ScriptMode mode, 
     nextPageStart_ += text.size();
     FindGroups(text, outline_, tokens_.HasOtherGroups(), groups_);
     tokens_.LookUp(text, groups_);
-    if (std::any_of(groups_.begin(), groups_.end(),
-                    [this](const Group& group) { return DependsOnOrder(group); })) {
-        ReplaceByLines(state);
-    } else {
+    if (tokens_.IrregularTokens().empty() && !DependOnOrder(groups_.begin(), groups_.end())) {
         ReplaceAtOnce(state, groups_.begin(), groups_.end());
+        Count(state, groups_.begin(), groups_.end());
+    } else {
+        ReplaceByLines(state);
     }
     CopyUpTo(state, text.size());
     SumUpEmptyTokens();
@@ -62,32 +62,50 @@ std::string_view PlaceholderSubstitution::Outline(std::string_view page) {
     return page;
 }
 
-/// Whether it matters in which order tokens are replaced on the line of that group.
-bool PlaceholderSubstitution::DependsOnOrder(const Group& group) const {
-    // Behind an open bracket the value may become part of another placeholder.
-    return !tokens_.IrregularTokens().empty() ||
-           (group.token != nullptr && (group.isBehindOpenBracket || group.token->DependsOnOrder()));
+/// Whether it matters in which order the tokens of these groups are replaced.
+bool PlaceholderSubstitution::DependOnOrder(Groups first, Groups last) {
+    return std::any_of(first, last, [](const Group& group) {
+        // Behind an open bracket the value may become part of another placeholder.
+        return group.token != nullptr &&
+               (group.isBehindOpenBracket || group.token->DependsOnOrder());
+    });
 }
 
 void PlaceholderSubstitution::ReplaceByLines(Page& page) {
     for (Groups first = groups_.begin(); first != groups_.end();) {
+        const std::size_t start = LineStart(page.text, first->start);
         const std::size_t end = LineEnd(page.text, first->start);
         const Groups last = std::find_if(first, groups_.cend(),
                                          [end](const Group& group) { return group.start >= end; });
-        if (std::any_of(first, last,
-                        [this](const Group& group) { return DependsOnOrder(group); })) {
-            ReplaceLineInOrder(page, LineStart(page.text, first->start), end);
-        } else {
-            ReplaceAtOnce(page, first, last);
-        }
+        CopyUpTo(page, start);
+        if (DependOnOrder(first, last) || !ReplaceLineAtOnce(page, first, last, end))
+            ReplaceLineInOrder(page, end);
         first = last;
     }
 }
 
-void PlaceholderSubstitution::ReplaceLineInOrder(Page& page, std::size_t start, std::size_t end) {
-    CopyUpTo(page, start);
-    const LineInOrder line(tokens_, page.text.substr(start, end - start),
-                           page.script.IsScript(start));
+/// Replaces the groups of the line that begins where the page has been copied to. False, with
+/// nothing done, when a token that is no group may have been on the line at some time.
+bool PlaceholderSubstitution::ReplaceLineAtOnce(Page& page, Groups first, Groups last,
+                                                std::size_t end) {
+    const std::size_t start = page.copied;
+    const std::size_t outputStart = page.output.Size();
+    ReplaceAtOnce(page, first, last);
+    page.output.Append(page.text.substr(page.copied, end - page.copied));
+    page.copied = end;
+    if (tokens_.MayHoldIrregular(page.text.substr(start, end - start)) ||
+        tokens_.MayHoldIrregular(page.output.View().substr(outputStart))) {
+        page.output.Truncate(outputStart);
+        page.copied = start;
+        return false;
+    }
+    Count(page, first, last);
+    return true;
+}
+
+void PlaceholderSubstitution::ReplaceLineInOrder(Page& page, std::size_t end) {
+    const LineInOrder line(tokens_, page.text.substr(page.copied, end - page.copied),
+                           page.script.IsScript(page.copied));
     page.output.Append(line.Text());
     page.copied = end;
     for (const TokenNumber number : line.Replaced())
@@ -107,10 +125,7 @@ void PlaceholderSubstitution::ReplaceAtOnce(Page& page, Groups first, Groups las
             page.output.AppendShort(group->token->Value());
         }
         page.copied = group->end;
-        Count(page, *group);
     }
-    if (!tokens_.EmptyTokens().empty())
-        CountEmptyTokens(page.text, first, last);
 }
 
 /// A line that became empty at the start of the output is dropped like one that was empty from the
@@ -122,6 +137,15 @@ void PlaceholderSubstitution::CopyUpTo(Page& page, std::size_t position) {
     }
     page.output.Append(page.text.substr(page.copied, position - page.copied));
     page.copied = position;
+}
+
+void PlaceholderSubstitution::Count(Page& page, Groups first, Groups last) {
+    for (Groups group = first; group != last; ++group) {
+        if (group->token != nullptr)
+            Count(page, *group);
+    }
+    if (!tokens_.EmptyTokens().empty())
+        CountEmptyTokens(page.text, first, last);
 }
 
 void PlaceholderSubstitution::Count(Page& page, const Group& group) {

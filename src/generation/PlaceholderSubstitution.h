@@ -50,11 +50,13 @@ class PlaceholderSubstitution {
     };
 
     std::string_view Outline(std::string_view page);
-    bool DependsOnOrder(const Group& group) const;
+    static bool DependOnOrder(Groups first, Groups last);
     void ReplaceByLines(Page& page);
-    void ReplaceLineInOrder(Page& page, std::size_t start, std::size_t end);
+    bool ReplaceLineAtOnce(Page& page, Groups first, Groups last, std::size_t end);
+    void ReplaceLineInOrder(Page& page, std::size_t end);
     void ReplaceAtOnce(Page& page, Groups first, Groups last);
     static void CopyUpTo(Page& page, std::size_t position);
+    void Count(Page& page, Groups first, Groups last);
     void Count(Page& page, const Group& group);
     void CountEmptyTokens(std::string_view text, Groups first, Groups last);
     void CountEmptyTokensUpTo(TokenNumber last);

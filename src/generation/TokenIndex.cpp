@@ -65,6 +65,18 @@ bool IsGroup(std::string_view token) {
            token.find(']') == token.size() - 1;
 }
 
+/// The longest part of a token that holds no brackets.
+std::string_view LongestPiece(std::string_view token) {
+    std::string_view longest;
+    while (!token.empty()) {
+        const std::string_view piece = token.substr(0, token.find_first_of("[]"));
+        if (piece.size() > longest.size())
+            longest = piece;
+        token.remove_prefix(std::min(piece.size() + 1, token.size()));
+    }
+    return longest;
+}
+
 bool IsQuote(char c) {
     return c == '\'' || c == '"';
 }
@@ -113,6 +125,7 @@ void TokenIndex::Add(TokenNumber number, std::u16string_view token, std::u16stri
         AddGroup(stored);
     } else {
         irregular_.push_back(&stored);
+        irregularPieces_.push_back(LongestPiece(stored.Token()));
     }
 }
 
@@ -163,6 +176,12 @@ const IndexedToken* TokenIndex::FindGroup(std::string_view group, TokenNumber af
     while (token != nullptr && token->number_ <= after)
         token = token->nextAlike_;
     return token;
+}
+
+bool TokenIndex::MayHoldIrregular(std::string_view text) const {
+    return std::any_of(
+        irregularPieces_.begin(), irregularPieces_.end(),
+        [text](std::string_view piece) { return text.find(piece) != std::string_view::npos; });
 }
 
 void TokenIndex::LookUp(std::string_view page, std::vector<Group>& groups) const {

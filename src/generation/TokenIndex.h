@@ -61,6 +61,8 @@ class TokenIndex {
 
     /// Tokens that are not groups, in order. They have to be searched for one by one.
     const std::vector<const IndexedToken*>& IrregularTokens() const { return irregular_; }
+    /// Whether the text holds the longest piece without brackets of one of them.
+    bool MayHoldIrregular(std::string_view text) const;
     /// Blank lines of the map file, in order.
     const std::vector<TokenNumber>& EmptyTokens() const { return empty_; }
 
@@ -82,6 +84,7 @@ class TokenIndex {
     std::vector<Slot> slots_;  // a power of two, at least half of them free
     bool hasOtherGroups_ = false;
     std::vector<const IndexedToken*> irregular_;
+    std::vector<std::string_view> irregularPieces_;
     std::vector<TokenNumber> empty_;
     std::vector<std::uint8_t> encoded_;  // the value at hand
 };

@@ -51,6 +51,15 @@ TEST(PlaceholderSubstitution, AScriptEndsWhereverInABlockOfThePageItsTagStands) 
     }
 }
 
+TEST(PlaceholderSubstitution, ATokenIsFoundThatIsThereOnlyBetweenTwoReplacements) {
+    for (const std::u16string_view between : {u"v[CV_TXT-B]", u"[CV_TXT-B]v", u"v[", u"]v"}) {
+        const auto result = Substitute("[CV_TXT-A][CV_TXT-B][CV_TXT-A]",
+                                       {u"", u"[CV_TXT-A]", between, u"[CV_TXT-B]"},
+                                       {u"", u"v", u"found", u""}, ScriptMode::Ignored);
+        EXPECT_NE(result->text.find("found"), std::string::npos);
+    }
+}
+
 // Few pieces, so that they meet in every way: tokens within tokens, values that bring or complete
 // placeholders, brackets left open, empty and repeated tokens, tokens of any other form; tags on
 // both sides of where a look at a block of the page ends, and what only resembles a tag.
