@@ -1,16 +1,16 @@
 #include "generation/PageLines.h"
 
-#include "translation/Lines.h"
-
 namespace cvlang {
 
-void EndLinesByPairs(std::string_view page, PageText& pairs) {
+void EndLinesByPairs(std::string_view page, const PageOutline& outline, PageText& pairs) {
     pairs.Truncate(0);
-    Lines<char> lines(page);
-    for (std::string_view line; lines.Next(line);) {
-        pairs.Append(line);
+    std::size_t copied = 0;
+    outline.ForEachSingleLineEnd([&](std::size_t place) {
+        pairs.Append(page.substr(copied, place - copied));
         pairs.Append(kPageLineEnd);
-    }
+        copied = place + 1;
+    });
+    pairs.Append(page.substr(copied));
 }
 
 }  // namespace cvlang

@@ -5,14 +5,15 @@
 #include <cstddef>
 #include <string_view>
 
+#include "generation/PageOutline.h"
 #include "generation/PageText.h"
 
 namespace cvlang {
 
 inline constexpr std::string_view kPageLineEnd = "\r\n";
 
-/// Makes `pairs` the page with each line, the last one too, ended by CR LF.
-void EndLinesByPairs(std::string_view page, PageText& pairs);
+/// Makes `pairs` the page with CR LF wherever its outline notes one of them alone.
+void EndLinesByPairs(std::string_view page, const PageOutline& outline, PageText& pairs);
 
 /// Where the line of this position begins, on a page whose lines end by CR LF.
 inline std::size_t LineStart(std::string_view page, std::size_t position) {

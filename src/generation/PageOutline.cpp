@@ -32,6 +32,7 @@ auto MayBeScriptTag(Characters c, Characters next, Characters afterNext) {
     return (c.Is('<') | c.Is('/')) & next.IsLetter('s') & afterNext.IsLetter('c');
 }
 
+/// Whether a CR stands before, or an LF behind, something else.
 template <typename Characters>
 auto BreaksPair(Characters c, Characters next) {
     return c.Is('\r') ^ next.Is('\n');
@@ -69,7 +70,7 @@ class SixteenCharacters {
 struct Found {
     std::uint64_t brackets = 0;
     std::uint64_t scriptTags = 0;
-    bool singles = false;  // a CR or an LF without the other
+    bool breaksPair = false;
 };
 
 std::uint64_t Bits(__m128i answers) {
@@ -79,7 +80,7 @@ std::uint64_t Bits(__m128i answers) {
 /// A whole block, behind which two more characters can be read.
 Found LookAtBlock(const char* text) {
     Found found;
-    __m128i singles = _mm_setzero_si128();
+    __m128i brokenPairs = _mm_setzero_si128();
     __m128i scriptTags[4];
     for (std::size_t i = 0; i < 4; ++i) {
         const SixteenCharacters c(text + 16 * i);
@@ -87,9 +88,9 @@ Found LookAtBlock(const char* text) {
         const SixteenCharacters afterNext(text + 16 * i + 2);
         found.brackets |= Bits(IsBracket(c)) << 16 * i;
         scriptTags[i] = MayBeScriptTag(c, next, afterNext);
-        singles |= BreaksPair(c, next);
+        brokenPairs |= BreaksPair(c, next);
     }
-    found.singles = Bits(singles) != 0;
+    found.breaksPair = Bits(brokenPairs) != 0;
     if (Bits(scriptTags[0] | scriptTags[1] | scriptTags[2] | scriptTags[3]) != 0) {
         for (std::size_t i = 0; i < 4; ++i)
             found.scriptTags |= Bits(scriptTags[i]) << 16 * i;
@@ -97,14 +98,30 @@ Found LookAtBlock(const char* text) {
     return found;
 }
 
+/// CR and LF without the other in the block that starts there, a bit for each.
+std::uint64_t SingleLineEnds(std::string_view page, std::size_t start) {
+    std::uint64_t cr = 0;
+    std::uint64_t lf = 0;
+    for (std::size_t i = 0; i < 4; ++i) {
+        const SixteenCharacters c(page.data() + start + 16 * i);
+        cr |= Bits(c.Is('\r')) << 16 * i;
+        lf |= Bits(c.Is('\n')) << 16 * i;
+    }
+    constexpr std::uint64_t kFirst = 1;
+    constexpr std::uint64_t kLast = kFirst << (kBlock - 1);
+    const std::uint64_t behindCr = cr << 1 | (start > 0 && page[start - 1] == '\r' ? kFirst : 0);
+    const std::uint64_t beforeLf = lf >> 1 | (page[start + kBlock] == '\n' ? kLast : 0);
+    return (cr & ~beforeLf) | (lf & ~behindCr);
+}
+
 #endif
 
 }  // namespace
 
 void PageOutline::Take(std::string_view page) {
+    singleLineEnds_.clear();
     brackets_.clear();
     scriptTags_.clear();
-    hasOnlyPairs_ = !page.starts_with('\n') && !page.ends_with('\r');
     const auto noteScriptTag = [&](std::size_t place) {
         const std::size_t start = page[place] == '/' && place > 0 ? place - 1 : place;
         const std::string_view tag = page.substr(start);
@@ -113,13 +130,17 @@ void PageOutline::Take(std::string_view page) {
     };
     std::size_t start = 0;
 #ifdef __SSE2__
+    bool hasSingleLineEnds = page.starts_with('\n');
     for (; page.size() - start >= kBlock + 2; start += kBlock) {
         const Found found = LookAtBlock(page.data() + start);
         if (found.brackets != 0)
             brackets_.push_back({start, found.brackets});
         for (std::uint64_t bits = found.scriptTags; bits != 0; bits &= bits - 1)
             noteScriptTag(start + static_cast<std::size_t>(std::countr_zero(bits)));
-        hasOnlyPairs_ = hasOnlyPairs_ && !found.singles;
+        // From the first one on, as an LF at a block's start breaks a pair in the block before.
+        hasSingleLineEnds = hasSingleLineEnds || found.breaksPair;
+        if (hasSingleLineEnds)
+            singleLineEnds_.push_back({start, SingleLineEnds(page, start)});
     }
 #endif
     for (std::size_t i = start; i < page.size(); ++i) {
@@ -128,8 +149,10 @@ void PageOutline::Take(std::string_view page) {
         };
         if (IsBracket(at(0)))
             brackets_.push_back({i, 1});
-        if (i + 1 < page.size() && BreaksPair(at(0), at(1)))
-            hasOnlyPairs_ = false;
+        const bool isPair =
+            page[i] == '\r' ? page.substr(i + 1).starts_with('\n') : i > 0 && page[i - 1] == '\r';
+        if ((at(0).Is('\r') | at(0).Is('\n')) && !isPair)
+            singleLineEnds_.push_back({i, 1});
         if (i + 2 < page.size() && MayBeScriptTag(at(0), at(1), at(2)))
             noteScriptTag(i);
     }

@@ -53,7 +53,7 @@ void PlaceholderSubstitution::ReleaseMemory() {
 std::string_view PlaceholderSubstitution::Outline(std::string_view page) {
     outline_.Take(page);
     if (!outline_.HasOnlyPairs()) {
-        EndLinesByPairs(page, pageWithPairs_);
+        EndLinesByPairs(page, outline_, pageWithPairs_);
         page = pageWithPairs_.View();
         outline_.Take(page);
     }
