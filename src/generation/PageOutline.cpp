@@ -32,12 +32,6 @@ auto MayBeScriptTag(Characters c, Characters next, Characters afterNext) {
     return (c.Is('<') | c.Is('/')) & next.IsLetter('s') & afterNext.IsLetter('c');
 }
 
-/// Whether a CR stands before, or an LF behind, something else.
-template <typename Characters>
-auto BreaksPair(Characters c, Characters next) {
-    return c.Is('\r') ^ next.Is('\n');
-}
-
 class OneCharacter {
   public:
     explicit OneCharacter(const char* at) : c_(*at) {}
@@ -70,7 +64,7 @@ class SixteenCharacters {
 struct Found {
     std::uint64_t brackets = 0;
     std::uint64_t scriptTags = 0;
-    bool breaksPair = false;
+    bool breaksPair = false;  // a CR stands before, or an LF behind, something else
 };
 
 std::uint64_t Bits(__m128i answers) {
@@ -88,7 +82,7 @@ Found LookAtBlock(const char* text) {
         const SixteenCharacters afterNext(text + 16 * i + 2);
         found.brackets |= Bits(IsBracket(c)) << 16 * i;
         scriptTags[i] = MayBeScriptTag(c, next, afterNext);
-        brokenPairs |= BreaksPair(c, next);
+        brokenPairs |= c.Is('\r') ^ next.Is('\n');
     }
     found.breaksPair = Bits(brokenPairs) != 0;
     if (Bits(scriptTags[0] | scriptTags[1] | scriptTags[2] | scriptTags[3]) != 0) {

@@ -47,9 +47,8 @@ class PageOutline {
         }
     }
 
-    // Only blocks that have some.
-    std::vector<Block> singleLineEnds_;
-    std::vector<Block> brackets_;
+    std::vector<Block> singleLineEnds_;  // blocks from the first one that has some
+    std::vector<Block> brackets_;        // only blocks that have some
     std::vector<std::size_t> scriptTags_;
 };
 
