@@ -17,9 +17,10 @@ void FindGroups(std::string_view text, const PageOutline& outline, bool all,
     bool isBehindOpenBracket = false;
     std::size_t open = kNone;
     const auto note = [&](std::size_t end) {
-        if (all || IsPlaceholderAt(text, open))
+        const bool isClosed = end != open;
+        if ((all && isClosed) || IsPlaceholderAt(text, open))
             groups.push_back({open, end, isBehindOpenBracket});
-        isBehindOpenBracket = end == open;
+        isBehindOpenBracket = !isClosed;
     };
     outline.ForEachBracket([&](std::size_t place) {
         const bool closes = text[place] == ']';

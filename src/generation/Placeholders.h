@@ -18,8 +18,8 @@ inline constexpr std::string_view kPlaceholderPrefix = "[CV_TXT-";
 bool IsPlaceholderAt(std::string_view text, std::size_t position);
 bool HoldsPlaceholder(std::string_view text);
 
-/// A text from "[" to "]" without further brackets, or nothing at a "[" that is not closed before
-/// the next one.
+/// A text from "[" to "]" without further brackets, or nothing where a placeholder begins that is
+/// not closed before the next bracket.
 struct Group {
     std::size_t start;
     std::size_t end;

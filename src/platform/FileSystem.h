@@ -64,9 +64,9 @@ FileStatus ReadFile(const std::filesystem::path& path, FileContent& content);
 /// disk still took then stays.
 bool WriteFile(const std::filesystem::path& path, std::string_view bytes);
 
-/// Deletes a file that is known not to be read-only and writes it anew. On Linux it is written over
-/// instead, which keeps its owner and permissions, unless it has a second name somewhere. When it
-/// cannot be written there is no such file afterwards.
+/// Deletes a file that is not read-only and writes it anew. On Linux it is written over instead,
+/// which keeps its owner and permissions, where only the file itself changes by that. When it
+/// cannot be written there is no such file afterwards, unless it cannot be deleted either.
 void WriteFileAnew(const Folder& folder, const std::filesystem::path& name, std::string_view bytes);
 
 /// Writes at the end of a file, creating it when it is missing.

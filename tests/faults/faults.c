@@ -1,5 +1,5 @@
 // Preloaded into a program, its FAULT_AT-th call for a file fails; with FAULT_KIND "full" every later one that
-// wants room on the disk does too, with "kill" the process ends there. A write takes half of its bytes first.
+// wants room on the disk does too (an empty file wants none), with "kill" the process ends there. A write takes half of its bytes first.
 // The file FAULT_TOLD says that it came to this.
 #define _GNU_SOURCE
 #include <dlfcn.h>
@@ -42,7 +42,7 @@ FAULTY(int, ftruncate, 0, (int file, off_t size), (file, size))
 int openat(int folder, const char* path, int flags, ...) {
     va_list mode;
     va_start(mode, flags);
-    return is_faulty(flags & O_CREAT) ? stop() : REAL(openat)(folder, path, flags, va_arg(mode, mode_t));
+    return is_faulty(0) ? stop() : REAL(openat)(folder, path, flags, va_arg(mode, mode_t));
 }
 
 ssize_t write(int file, const void* from, size_t size) {

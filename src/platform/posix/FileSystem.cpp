@@ -62,11 +62,12 @@ bool Write(const Place& place, std::string_view bytes) {
 }
 
 /// Writes over an existing file, which is much cheaper than deleting and creating it. False when
-/// that did not succeed, or would write to a file of another name too.
+/// that did not succeed, or when the file is read-only, a link, or has another name too.
 bool WriteOver(const Place& place, std::string_view bytes) {
     Descriptor file(Open(place, O_WRONLY | O_NOFOLLOW));
     struct stat existing {};
-    if (!file.IsOpen() || fstat(file.Number(), &existing) != 0 || existing.st_nlink != 1)
+    if (!file.IsOpen() || fstat(file.Number(), &existing) != 0 || IsReadOnly(existing) ||
+        existing.st_nlink != 1)
         return false;
     const auto size = static_cast<off_t>(bytes.size());
     const bool written =
