@@ -1,5 +1,6 @@
-// Preloaded into a program, its FAULT_AT-th call for a file fails; with FAULT_KIND "full" every later one that
-// wants room on the disk does too (an empty file wants none), with "kill" the process ends there. A write takes half of its bytes first.
+// Preloaded into a program, its FAULT_AT-th call for a file fails: with FAULT_KIND "gone" as if the file had been
+// deleted, with "denied" for want of a permission. With "full" every later one that wants room on the disk (an
+// empty file wants none) fails too, with "kill" the process ends there. A write takes half of its bytes first.
 // The file FAULT_TOLD says that it came to this.
 #define _GNU_SOURCE
 #include <dlfcn.h>
@@ -14,19 +15,23 @@
 
 #define REAL(name) ((__typeof__(&name))dlsym(RTLD_NEXT, #name))
 
+static int is_kind(const char* kind) {
+    return strcmp(getenv("FAULT_KIND"), kind) == 0;
+}
+
 static int is_faulty(int wants_room) {
     static int calls;
     const int first = atoi(getenv("FAULT_AT"));
-    const int later = first != 0 && ++calls > first && wants_room && strcmp(getenv("FAULT_KIND"), "full") == 0;
+    const int later = first != 0 && ++calls > first && wants_room && is_kind("full");
     if (first == 0 || (calls != first && !later))
         return 0;
     REAL(close)(creat(getenv("FAULT_TOLD"), 0600));
-    errno = wants_room ? ENOSPC : EIO;
+    errno = is_kind("gone") ? ENOENT : is_kind("denied") ? EACCES : wants_room ? ENOSPC : EIO;
     return 1;
 }
 
 static int stop(void) {
-    if (strcmp(getenv("FAULT_KIND"), "kill") == 0)
+    if (is_kind("kill"))
         raise(SIGKILL);
     return -1;
 }
@@ -47,8 +52,9 @@ int openat(int folder, const char* path, int flags, ...) {
 
 ssize_t write(int file, const void* from, size_t size) {
     const int faulty = is_faulty(1);
+    const int reason = errno;
     const ssize_t written = REAL(write)(file, from, faulty ? size / 2 : size);
-    errno = faulty ? ENOSPC : errno;
+    errno = faulty ? reason : errno;
     return faulty ? stop() : written;
 }
 

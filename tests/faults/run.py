@@ -34,7 +34,7 @@ def run(before, command, kind="", at=0):
 
 def every_fault(before, command, check):
     runs = 0
-    for kind in "fail", "full", "kill":
+    for kind in "fail", "gone", "denied", "full", "kill":
         at, came = 1, True
         while came:
             new, came = run(before, command, kind, at)
