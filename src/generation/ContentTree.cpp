@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "generation/ApplicationRoots.h"
+#include "generation/LanguageFolders.h"
 #include "platform/Ansi.h"
 #include "platform/FileSystem.h"
 #include "platform/FolderCopy.h"

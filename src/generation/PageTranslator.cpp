@@ -2,8 +2,7 @@
 
 #include <new>
 
-#include "generation/ApplicationRoots.h"
-#include "generation/PageEncoding.h"
+#include "generation/LanguageFolders.h"
 #include "platform/LetterCase.h"
 #include "platform/Paths.h"
 #include "translation/LanguageTable.h"

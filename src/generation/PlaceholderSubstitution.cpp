@@ -4,9 +4,7 @@
 #include <limits>
 #include <utility>
 
-#include "generation/LineInOrder.h"
-#include "generation/PageEncoding.h"
-#include "generation/PageLines.h"
+#include "generation/SequentialSubstitution.h"
 
 namespace cvlang {
 namespace {
@@ -24,13 +22,13 @@ PlaceholderSubstitution::PlaceholderSubstitution(const TokenIndex& tokens,
       linesByEmptyTokens_(tokens.EmptyTokens().size() + 1) {}
 
 bool PlaceholderSubstitution::Translate(std::string_view page, ScriptMode mode, PageText& output) {
-    const std::string_view text = Outline(page);
+    const std::string_view text = Normalise(page);
     if (tokens_.UpperBound() > kMostTokens && HoldsPlaceholder(text))
         return false;
-    Page state{text, ScriptTracker(text, outline_, mode), output, output.Size()};
+    Page state{text, ScriptTracker(text, scan_, mode), output, output.Size()};
     pageStart_ = nextPageStart_;
     nextPageStart_ += text.size();
-    FindGroups(text, outline_, tokens_.HasOtherGroups(), groups_);
+    FindBracketGroups(text, scan_, tokens_.HasOtherGroups(), groups_);
     tokens_.LookUp(text, groups_);
     if (tokens_.IrregularTokens().empty() && !DependOnOrder(groups_.begin(), groups_.end())) {
         ReplaceAtOnce(state, groups_.begin(), groups_.end());
@@ -44,18 +42,18 @@ bool PlaceholderSubstitution::Translate(std::string_view page, ScriptMode mode, 
 }
 
 void PlaceholderSubstitution::ReleaseMemory() {
-    pageWithPairs_ = PageText();
-    outline_ = PageOutline();
-    groups_ = std::vector<Group>();
+    normalised_ = PageText();
+    scan_ = PageScan();
+    groups_ = std::vector<BracketGroup>();
 }
 
 /// The page's lines, joined by CR LF, without the last line's end, and outlined.
-std::string_view PlaceholderSubstitution::Outline(std::string_view page) {
-    outline_.Take(page);
-    if (!outline_.HasOnlyPairs()) {
-        EndLinesByPairs(page, outline_, pageWithPairs_);
-        page = pageWithPairs_.View();
-        outline_.Take(page);
+std::string_view PlaceholderSubstitution::Normalise(std::string_view page) {
+    scan_.Scan(page);
+    if (!scan_.HasOnlyCrLf()) {
+        NormaliseLineEnds(page, scan_, normalised_);
+        page = normalised_.View();
+        scan_.Scan(page);
     }
     if (page.ends_with(kPageLineEnd))
         page.remove_suffix(kPageLineEnd.size());
@@ -63,8 +61,8 @@ std::string_view PlaceholderSubstitution::Outline(std::string_view page) {
 }
 
 /// Whether it matters in which order the tokens of these groups are replaced.
-bool PlaceholderSubstitution::DependOnOrder(Groups first, Groups last) {
-    return std::any_of(first, last, [](const Group& group) {
+bool PlaceholderSubstitution::DependOnOrder(BracketGroups first, BracketGroups last) {
+    return std::any_of(first, last, [](const BracketGroup& group) {
         // Behind an open bracket the value may become part of another placeholder.
         return group.token != nullptr &&
                (group.isBehindOpenBracket || group.token->DependsOnOrder());
@@ -72,11 +70,11 @@ bool PlaceholderSubstitution::DependOnOrder(Groups first, Groups last) {
 }
 
 void PlaceholderSubstitution::ReplaceByLines(Page& page) {
-    for (Groups first = groups_.begin(); first != groups_.end();) {
+    for (BracketGroups first = groups_.begin(); first != groups_.end();) {
         const std::size_t start = LineStart(page.text, first->start);
         const std::size_t end = LineEnd(page.text, first->start);
-        const Groups last = std::find_if(first, groups_.cend(),
-                                         [end](const Group& group) { return group.start >= end; });
+        const BracketGroups last = std::find_if(
+            first, groups_.cend(), [end](const BracketGroup& group) { return group.start >= end; });
         CopyUpTo(page, start);
         if (DependOnOrder(first, last) || !ReplaceLineAtOnce(page, first, last, end))
             ReplaceLineInOrder(page, end);
@@ -86,7 +84,7 @@ void PlaceholderSubstitution::ReplaceByLines(Page& page) {
 
 /// Replaces the groups of the line that begins where the page has been copied to. False, with
 /// nothing done, when a token that is no group may have been on the line at some time.
-bool PlaceholderSubstitution::ReplaceLineAtOnce(Page& page, Groups first, Groups last,
+bool PlaceholderSubstitution::ReplaceLineAtOnce(Page& page, BracketGroups first, BracketGroups last,
                                                 std::size_t end) {
     const std::size_t start = page.copied;
     const std::size_t outputStart = page.output.Size();
@@ -104,8 +102,8 @@ bool PlaceholderSubstitution::ReplaceLineAtOnce(Page& page, Groups first, Groups
 }
 
 void PlaceholderSubstitution::ReplaceLineInOrder(Page& page, std::size_t end) {
-    const LineInOrder line(tokens_, page.text.substr(page.copied, end - page.copied),
-                           page.script.IsScript(page.copied));
+    const SequentialSubstitution line(tokens_, page.text.substr(page.copied, end - page.copied),
+                                      page.script.IsScript(page.copied));
     page.output.Append(line.Text());
     page.copied = end;
     for (const TokenNumber number : line.Replaced())
@@ -114,8 +112,8 @@ void PlaceholderSubstitution::ReplaceLineInOrder(Page& page, std::size_t end) {
 }
 
 /// Replaces groups between which the order does not matter.
-void PlaceholderSubstitution::ReplaceAtOnce(Page& page, Groups first, Groups last) {
-    for (Groups group = first; group != last; ++group) {
+void PlaceholderSubstitution::ReplaceAtOnce(Page& page, BracketGroups first, BracketGroups last) {
+    for (BracketGroups group = first; group != last; ++group) {
         if (group->token == nullptr)
             continue;
         CopyUpTo(page, group->start);
@@ -139,8 +137,8 @@ void PlaceholderSubstitution::CopyUpTo(Page& page, std::size_t position) {
     page.copied = position;
 }
 
-void PlaceholderSubstitution::Count(Page& page, Groups first, Groups last) {
-    for (Groups group = first; group != last; ++group) {
+void PlaceholderSubstitution::Count(Page& page, BracketGroups first, BracketGroups last) {
+    for (BracketGroups group = first; group != last; ++group) {
         if (group->token != nullptr)
             Count(page, *group);
     }
@@ -148,7 +146,7 @@ void PlaceholderSubstitution::Count(Page& page, Groups first, Groups last) {
         CountEmptyTokens(page.text, first, last);
 }
 
-void PlaceholderSubstitution::Count(Page& page, const Group& group) {
+void PlaceholderSubstitution::Count(Page& page, const BracketGroup& group) {
     const auto index = static_cast<std::size_t>(group.token->Number());
     std::uint64_t& countedAt = countedAt_[index];
     if (countedAt >= pageStart_ && group.start >= page.lineEnd) {
@@ -161,7 +159,8 @@ void PlaceholderSubstitution::Count(Page& page, const Group& group) {
     ++useCounts_[index];
 }
 
-void PlaceholderSubstitution::CountEmptyTokens(std::string_view text, Groups first, Groups last) {
+void PlaceholderSubstitution::CountEmptyTokens(std::string_view text, BracketGroups first,
+                                               BracketGroups last) {
     while (first != last) {
         const std::size_t end = LineEnd(text, first->start);
         TokenNumber lookedAt = 0;

@@ -13,10 +13,8 @@
 #include <string_view>
 #include <vector>
 
-#include "generation/PageOutline.h"
+#include "generation/PageScan.h"
 #include "generation/PageText.h"
-#include "generation/Placeholders.h"
-#include "generation/ScriptTracker.h"
 #include "generation/TokenIndex.h"
 
 namespace cvlang {
@@ -37,7 +35,7 @@ class PlaceholderSubstitution {
     void ReleaseMemory();
 
   private:
-    using Groups = std::vector<Group>::const_iterator;
+    using BracketGroups = std::vector<BracketGroup>::const_iterator;
     struct Page {
         std::string_view text;
         ScriptTracker script;
@@ -49,25 +47,25 @@ class PlaceholderSubstitution {
         std::size_t lineEnd = 0;
     };
 
-    std::string_view Outline(std::string_view page);
-    static bool DependOnOrder(Groups first, Groups last);
+    std::string_view Normalise(std::string_view page);
+    static bool DependOnOrder(BracketGroups first, BracketGroups last);
     void ReplaceByLines(Page& page);
-    bool ReplaceLineAtOnce(Page& page, Groups first, Groups last, std::size_t end);
+    bool ReplaceLineAtOnce(Page& page, BracketGroups first, BracketGroups last, std::size_t end);
     void ReplaceLineInOrder(Page& page, std::size_t end);
-    void ReplaceAtOnce(Page& page, Groups first, Groups last);
+    void ReplaceAtOnce(Page& page, BracketGroups first, BracketGroups last);
     static void CopyUpTo(Page& page, std::size_t position);
-    void Count(Page& page, Groups first, Groups last);
-    void Count(Page& page, const Group& group);
-    void CountEmptyTokens(std::string_view text, Groups first, Groups last);
+    void Count(Page& page, BracketGroups first, BracketGroups last);
+    void Count(Page& page, const BracketGroup& group);
+    void CountEmptyTokens(std::string_view text, BracketGroups first, BracketGroups last);
     void CountEmptyTokensUpTo(TokenNumber last);
     void SumUpEmptyTokens();
 
     const TokenIndex& tokens_;
     std::vector<std::int32_t>& useCounts_;
     // Of the page at hand.
-    PageText pageWithPairs_;  // when it had other line ends
-    PageOutline outline_;
-    std::vector<Group> groups_;
+    PageText normalised_;  // when it had other line ends
+    PageScan scan_;
+    std::vector<BracketGroup> groups_;
     // Per token, where it was last counted. Pages follow one another without ever starting anew.
     std::vector<std::uint64_t> countedAt_;
     std::uint64_t pageStart_ = 0;

@@ -8,8 +8,6 @@
 #include <optional>
 #include <string>
 
-#include "generation/PageEncoding.h"
-#include "generation/PageText.h"
 #include "platform/Ansi.h"
 
 namespace cvlang {
@@ -184,12 +182,12 @@ bool TokenIndex::MayHoldIrregular(std::string_view text) const {
         [text](std::string_view piece) { return text.find(piece) != std::string_view::npos; });
 }
 
-void TokenIndex::LookUp(std::string_view page, std::vector<Group>& groups) const {
-    for (Group& group : groups) {
+void TokenIndex::LookUp(std::string_view page, std::vector<BracketGroup>& groups) const {
+    for (BracketGroup& group : groups) {
         group.hash = Hash(group.In(page));
         __builtin_prefetch(&slots_[group.hash & (slots_.size() - 1)]);
     }
-    for (Group& group : groups)
+    for (BracketGroup& group : groups)
         group.token = At(slots_[FindSlot(group.In(page), group.hash)]);
 }
 

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "generation/Placeholders.h"
+#include "generation/PageScan.h"
 #include "translation/TokenMapFile.h"
 
 namespace cvlang {
@@ -57,7 +57,7 @@ class TokenIndex {
 
     /// Sets the token of each of the page's groups: the first one of its text, if there is one.
     /// Many at once, because the time that fetching from memory takes then passes only once.
-    void LookUp(std::string_view page, std::vector<Group>& groups) const;
+    void LookUp(std::string_view page, std::vector<BracketGroup>& groups) const;
 
     /// Tokens that are not groups, in order. They have to be searched for one by one.
     const std::vector<const IndexedToken*>& IrregularTokens() const { return irregular_; }

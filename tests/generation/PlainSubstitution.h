@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "generation/ScriptTracker.h"
+#include "generation/PageScan.h"
 #include "platform/Ansi.h"
 #include "platform/Utf8.h"
 #include "translation/TokenMapFile.h"

@@ -1,13 +1,12 @@
-#include "generation/LineInOrder.h"
+#include "generation/SequentialSubstitution.h"
 
 #include <algorithm>
 #include <cstddef>
 
-#include "generation/PageEncoding.h"
-
 namespace cvlang {
 
-LineInOrder::LineInOrder(const TokenIndex& tokens, std::string_view line, bool isScript)
+SequentialSubstitution::SequentialSubstitution(const TokenIndex& tokens, std::string_view line,
+                                               bool isScript)
     : tokens_(tokens), isScript_(isScript), text_(line) {
     while (HoldsPlaceholder(text_)) {
         const std::size_t replacedBefore = replaced_.size();
@@ -25,7 +24,7 @@ LineInOrder::LineInOrder(const TokenIndex& tokens, std::string_view line, bool i
     }
 }
 
-std::vector<TokenNumber> LineInOrder::Replaced() const {
+std::vector<TokenNumber> SequentialSubstitution::Replaced() const {
     std::vector<TokenNumber> numbers = replaced_;
     std::sort(numbers.begin(), numbers.end());
     numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
@@ -34,7 +33,7 @@ std::vector<TokenNumber> LineInOrder::Replaced() const {
 
 /// Replaces the tokens behind those looked at up to the next one whose place in the order matters,
 /// and returns that one; null when there is none.
-const IndexedToken* LineInOrder::ReplaceUpToNext() {
+const IndexedToken* SequentialSubstitution::ReplaceUpToNext() {
     const auto replacedBefore = static_cast<std::ptrdiff_t>(replaced_.size());
     const IndexedToken* next = NextIrregular();
     for (;;) {
@@ -53,12 +52,13 @@ const IndexedToken* LineInOrder::ReplaceUpToNext() {
 /// Appends the text with each group replaced that is a token behind those looked at and before
 /// `before` (null: up to the last) and whose place in the order does not matter. Returns the first
 /// token between them whose place does matter, or else `before`.
-const IndexedToken* LineInOrder::ReplaceGroups(const IndexedToken* before, std::string& output) {
+const IndexedToken* SequentialSubstitution::ReplaceGroups(const IndexedToken* before,
+                                                          std::string& output) {
     const std::string_view text = text_;
-    outline_.Take(text);
-    FindGroups(text, outline_, tokens_.HasOtherGroups(), groups_);
+    scan_.Scan(text);
+    FindBracketGroups(text, scan_, tokens_.HasOtherGroups(), groups_);
     std::size_t copied = 0;
-    for (const Group& group : groups_) {
+    for (const BracketGroup& group : groups_) {
         const IndexedToken* token = tokens_.FindGroup(group.In(text), lookedAt_);
         if (token == nullptr || (before != nullptr && token->Number() >= before->Number()))
             continue;
@@ -77,7 +77,7 @@ const IndexedToken* LineInOrder::ReplaceGroups(const IndexedToken* before, std::
 }
 
 /// Replaces every occurrence of an irregular or order-dependent token.
-void LineInOrder::ReplaceToken(const IndexedToken& token) {
+void SequentialSubstitution::ReplaceToken(const IndexedToken& token) {
     std::string output;
     std::size_t copied = 0;
     std::size_t found = text_.find(token.Token());
@@ -93,7 +93,7 @@ void LineInOrder::ReplaceToken(const IndexedToken& token) {
     text_.swap(output);
 }
 
-void LineInOrder::AppendValue(const IndexedToken& token, std::string& output) const {
+void SequentialSubstitution::AppendValue(const IndexedToken& token, std::string& output) const {
     if (isScript_ && token.HasQuotes()) {
         output += EscapeForScript(token.Value());
     } else {
@@ -101,7 +101,7 @@ void LineInOrder::AppendValue(const IndexedToken& token, std::string& output) co
     }
 }
 
-const IndexedToken* LineInOrder::NextIrregular() const {
+const IndexedToken* SequentialSubstitution::NextIrregular() const {
     const auto& irregular = tokens_.IrregularTokens();
     const auto next = std::upper_bound(
         irregular.begin(), irregular.end(), lookedAt_,

@@ -1,4 +1,4 @@
-#include "generation/ApplicationRoots.h"
+#include "generation/LanguageFolders.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 namespace cvlang {
 namespace {
 
-TEST(ApplicationRoots, EveryApplicationAndBaseHasItsPlace) {
+TEST(LanguageFolders, EveryApplicationAndBaseHasItsPlace) {
     using Path = std::filesystem::path;  // for which all separators are alike
     const std::tuple<std::u16string, std::u16string, std::u16string, Path> cases[] = {
         {u"src", u"WEBMAIL", u"Kesto.NET", u"src/WebMail/base/Kesto.NET/lang"},

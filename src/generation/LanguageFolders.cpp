@@ -1,4 +1,4 @@
-#include "generation/ApplicationRoots.h"
+#include "generation/LanguageFolders.h"
 
 #include "platform/LetterCase.h"
 #include "platform/Paths.h"

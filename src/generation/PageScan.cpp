@@ -1,4 +1,4 @@
-#include "generation/PageOutline.h"
+#include "generation/PageScan.h"
 
 #include <algorithm>
 
@@ -64,7 +64,7 @@ class SixteenCharacters {
 struct Found {
     std::uint64_t brackets = 0;
     std::uint64_t scriptTags = 0;
-    bool breaksPair = false;  // a CR stands before, or an LF behind, something else
+    bool breaksCrLf = false;  // a CR stands before, or an LF behind, something else
 };
 
 std::uint64_t Bits(__m128i answers) {
@@ -74,7 +74,7 @@ std::uint64_t Bits(__m128i answers) {
 /// A whole block, behind which two more characters can be read.
 Found LookAtBlock(const char* text) {
     Found found;
-    __m128i brokenPairs = _mm_setzero_si128();
+    __m128i brokenCrLfs = _mm_setzero_si128();
     __m128i scriptTags[4];
     for (std::size_t i = 0; i < 4; ++i) {
         const SixteenCharacters c(text + 16 * i);
@@ -82,9 +82,9 @@ Found LookAtBlock(const char* text) {
         const SixteenCharacters afterNext(text + 16 * i + 2);
         found.brackets |= Bits(IsBracket(c)) << 16 * i;
         scriptTags[i] = MayBeScriptTag(c, next, afterNext);
-        brokenPairs |= c.Is('\r') ^ next.Is('\n');
+        brokenCrLfs |= c.Is('\r') ^ next.Is('\n');
     }
-    found.breaksPair = Bits(brokenPairs) != 0;
+    found.breaksCrLf = Bits(brokenCrLfs) != 0;
     if (Bits(scriptTags[0] | scriptTags[1] | scriptTags[2] | scriptTags[3]) != 0) {
         for (std::size_t i = 0; i < 4; ++i)
             found.scriptTags |= Bits(scriptTags[i]) << 16 * i;
@@ -93,7 +93,7 @@ Found LookAtBlock(const char* text) {
 }
 
 /// CR and LF without the other in the block that starts there, a bit for each.
-std::uint64_t SingleLineEnds(std::string_view page, std::size_t start) {
+std::uint64_t IrregularLineEnds(std::string_view page, std::size_t start) {
     std::uint64_t cr = 0;
     std::uint64_t lf = 0;
     for (std::size_t i = 0; i < 4; ++i) {
@@ -112,8 +112,8 @@ std::uint64_t SingleLineEnds(std::string_view page, std::size_t start) {
 
 }  // namespace
 
-void PageOutline::Take(std::string_view page) {
-    singleLineEnds_.clear();
+void PageScan::Scan(std::string_view page) {
+    irregularLineEnds_.clear();
     brackets_.clear();
     scriptTags_.clear();
     const auto noteScriptTag = [&](std::size_t place) {
@@ -124,7 +124,7 @@ void PageOutline::Take(std::string_view page) {
     };
     std::size_t start = 0;
 #ifdef __SSE2__
-    bool hasSingleLineEnds = page.starts_with('\n');
+    bool hasIrregularLineEnds = page.starts_with('\n');
     for (; page.size() - start >= kBlock + 2; start += kBlock) {
         const Found found = LookAtBlock(page.data() + start);
         if (found.brackets != 0)
@@ -132,9 +132,9 @@ void PageOutline::Take(std::string_view page) {
         for (std::uint64_t bits = found.scriptTags; bits != 0; bits &= bits - 1)
             noteScriptTag(start + static_cast<std::size_t>(std::countr_zero(bits)));
         // From the first one on, as an LF at a block's start breaks a pair in the block before.
-        hasSingleLineEnds = hasSingleLineEnds || found.breaksPair;
-        if (hasSingleLineEnds)
-            singleLineEnds_.push_back({start, SingleLineEnds(page, start)});
+        hasIrregularLineEnds = hasIrregularLineEnds || found.breaksCrLf;
+        if (hasIrregularLineEnds)
+            irregularLineEnds_.push_back({start, IrregularLineEnds(page, start)});
     }
 #endif
     for (std::size_t i = start; i < page.size(); ++i) {
@@ -143,13 +143,76 @@ void PageOutline::Take(std::string_view page) {
         };
         if (IsBracket(at(0)))
             brackets_.push_back({i, 1});
-        const bool isPair =
+        const bool isCrLf =
             page[i] == '\r' ? page.substr(i + 1).starts_with('\n') : i > 0 && page[i - 1] == '\r';
-        if ((at(0).Is('\r') | at(0).Is('\n')) && !isPair)
-            singleLineEnds_.push_back({i, 1});
+        if ((at(0).Is('\r') | at(0).Is('\n')) && !isCrLf)
+            irregularLineEnds_.push_back({i, 1});
         if (i + 2 < page.size() && MayBeScriptTag(at(0), at(1), at(2)))
             noteScriptTag(i);
     }
+}
+
+void NormaliseLineEnds(std::string_view page, const PageScan& scan, PageText& normalised) {
+    normalised.Truncate(0);
+    std::size_t copied = 0;
+    scan.ForEachIrregularLineEnd([&](std::size_t place) {
+        normalised.Append(page.substr(copied, place - copied));
+        normalised.Append(kPageLineEnd);
+        copied = place + 1;
+    });
+    normalised.Append(page.substr(copied));
+}
+
+ScriptTracker::ScriptTracker(std::string_view page, const PageScan& scan, ScriptMode mode)
+    : page_(page), inside_(mode == ScriptMode::Always) {
+    if (mode == ScriptMode::Tracked)
+        tags_ = scan.ScriptTags();
+    nextChange_ = NextLine();
+}
+
+/// Where the next line with a tag begins; npos when there is none.
+std::size_t ScriptTracker::NextLine() const {
+    return tags_.empty() ? std::string_view::npos : LineStart(page_, tags_.front());
+}
+
+void ScriptTracker::TakeNextLine() {
+    const std::size_t end = LineEnd(page_, tags_.front());
+    inside_ = true;
+    for (; !tags_.empty() && tags_.front() < end; tags_ = tags_.subspan(1)) {
+        const bool closes = page_[tags_.front() + 1] == '/';
+        inside_ = inside_ && !closes;
+    }
+    nextChange_ = NextLine();
+}
+
+bool IsPlaceholderAt(std::string_view text, std::size_t position) {
+    return text.substr(position, kPlaceholderPrefix.size()) == kPlaceholderPrefix;
+}
+
+bool HoldsPlaceholder(std::string_view text) {
+    return text.find(kPlaceholderPrefix) != std::string_view::npos;
+}
+
+void FindBracketGroups(std::string_view text, const PageScan& scan, bool all,
+                       std::vector<BracketGroup>& groups) {
+    constexpr std::size_t kNone = std::string_view::npos;
+    groups.clear();
+    bool isBehindOpenBracket = false;
+    std::size_t open = kNone;
+    const auto note = [&](std::size_t end) {
+        const bool isClosed = end != open;
+        if ((all && isClosed) || IsPlaceholderAt(text, open))
+            groups.push_back({open, end, isBehindOpenBracket});
+        isBehindOpenBracket = !isClosed;
+    };
+    scan.ForEachBracket([&](std::size_t place) {
+        const bool closes = text[place] == ']';
+        if (open != kNone)
+            note(closes ? place + 1 : open);
+        open = closes ? kNone : place;
+    });
+    if (open != kNone)
+        note(open);
 }
 
 }  // namespace cvlang

@@ -1,4 +1,4 @@
-#include "generation/PageEncoding.h"
+#include "generation/PageText.h"
 
 namespace cvlang {
 

@@ -12,9 +12,9 @@ namespace cvlang {
 /// A line with its tokens replaced in array order, as long as it holds the beginning of a
 /// placeholder. Between two tokens whose place in the order matters, the others are replaced in one
 /// go.
-class LineInOrder {
+class SequentialSubstitution {
   public:
-    LineInOrder(const TokenIndex& tokens, std::string_view line, bool isScript);
+    SequentialSubstitution(const TokenIndex& tokens, std::string_view line, bool isScript);
 
     const std::string& Text() const { return text_; }
     /// The tokens that were replaced, each once.
@@ -34,8 +34,8 @@ class LineInOrder {
     std::string text_;
     TokenNumber lookedAt_ = 0;
     std::vector<TokenNumber> replaced_;  // with repetitions
-    PageOutline outline_;
-    std::vector<Group> groups_;
+    PageScan scan_;
+    std::vector<BracketGroup> groups_;
 };
 
 }  // namespace cvlang
