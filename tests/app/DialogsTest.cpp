@@ -4,30 +4,29 @@
 namespace cvlang {
 namespace {
 
+constexpr const char* kTokenName = "Token Name:";
+constexpr const char* kTokenValue = "English Value:";
 constexpr long kYesNoCancel = wxYES_NO | wxCANCEL | wxICON_NONE;
 
 class Dialogs : public MainWindow {
   protected:
     void AddLanguage(const std::u16string& name, const std::u16string& abbreviation,
-                     const wxString& refusal = "", const char* button = "cmdOK") {
-        script_.ExpectDialog("frmAddLanguage", [=](wxDialog& dialog) {
-            EXPECT_EQ(dialog.GetTitle(), "Add Language: WebMail[default.net]");
-            Type(dialog, "txtLanguage", name);
-            Type(dialog, "txtAbbrev", abbreviation);
+                     const wxString& refusal = "", const char* button = "OK") {
+        script_.ExpectDialog("Add Language: WebMail[default.net]", [=](wxDialog& dialog) {
+            Type(dialog, "Enter language name:", name);
+            Type(dialog, "Enter abbreviation for language (e.g. EN):", abbreviation);
             Press(dialog, button);
         });
         if (!refusal.empty())
             script_.ExpectBox("Error", refusal, kCritical);
-        Choose(Window(), frmMain::mnuNewLanguage);
+        Choose(Window(), "File", "Add New Language...");
     }
 
     /// Asks to remove [CV_TXT-HELLO]; the answer is given to the question that the action leads to.
     void RemoveToken(const char* button, int answer = 0) {
-        script_.ExpectDialog("frmAddToken", [=](wxDialog& dialog) {
-            EXPECT_EQ(dialog.GetTitle(), "Remove Token");
-            EXPECT_EQ(Find<wxWindow>(dialog, "cmdAction").GetLabel(), "Remove");
+        script_.ExpectDialog("Remove Token", [=](wxDialog& dialog) {
             for (const auto& [box, text] :
-                 {std::pair{"txtTokenName", u"[CV_TXT-HELLO]"}, {"txtTokenValue", u"Hello"}}) {
+                 {std::pair{kTokenName, u"[CV_TXT-HELLO]"}, {kTokenValue, u"Hello"}}) {
                 EXPECT_EQ(Find<TextBox>(dialog, box).Text(), text);
                 EXPECT_FALSE(Find<TextBox>(dialog, box).IsEditable());
             }
@@ -38,7 +37,7 @@ class Dialogs : public MainWindow {
                               "Also remove this token from all translated language files?",
                               kYesNoCancel, answer);
         }
-        Press(Window(), "cmdRemoveToken");
+        Press(Window(), "Remove Token...");
     }
 };
 
@@ -52,40 +51,38 @@ TEST_F(Dialogs, ANewLanguageIsListedUnlessItsNameOrAbbreviationIsThereAlready) {
     AddLanguage(u"Fran\u00E7ais", u"FR",
                 "That language abbreviation already exists and cannot be added.");
     AddLanguage(u"", u"el");
-    AddLanguage(u"Greek", u"el", "", "cmdQuit");
+    AddLanguage(u"Greek", u"el", "", "Cancel");
     EXPECT_EQ(FileBytes(kLanguageList), "French\tfr\nGerman\tde");
 
     AddLanguage(u"Fran\u00E7ais", u"");
     EXPECT_EQ(FileBytes(kLanguageList),
               "French\tfr\r\nGerman\tde\r\nFran\xE7"
               "ais\t\r\n");
-    EXPECT_EQ(Entries("lstLanguages"), List({u"French", u"German", u"Fran\u00E7ais"}));
+    EXPECT_EQ(Entries(kLanguages), List({u"French", u"German", u"Fran\u00E7ais"}));
 }
 
 TEST_F(Dialogs, ATokenIsAddedAtTheEndOnALineOfItsOwn) {
-    Pick(Window(), "lstLanguages", u"French");
+    Pick(Window(), kLanguages, u"French");
     const std::u16string reference = u"\t\t\t[CV_TXT-HELLO]\tHello: you";
     const std::u16string more = u"\t\t\t[CV_TXT- MORE]\tMore \u20AC\r\n";
     const std::tuple<std::u16string, const char*, std::u16string> cases[] = {
-        {reference, "cmdCancel", reference},
-        {reference, "cmdAction", reference + u"\r\n" + more},
-        {reference + u"\n", "cmdAction", reference + u"\n\r\n" + more},
-        {reference + u"\r\n", "cmdAction", reference + u"\r\n" + more}};
+        {reference, "Cancel", reference},
+        {reference, "Add", reference + u"\r\n" + more},
+        {reference + u"\n", "Add", reference + u"\n\r\n" + more},
+        {reference + u"\r\n", "Add", reference + u"\r\n" + more}};
     for (const auto& [before, button, after] : cases) {
         PutFile(kReferenceMap,
-                Utf16Bytes(before) + (button[3] == 'A' ? "x" : ""));  // half a character
-        script_.ExpectDialog("frmAddToken", [button = button](wxDialog& dialog) {
-            EXPECT_EQ(dialog.GetTitle(), "Add New Token");
-            EXPECT_EQ(Find<wxWindow>(dialog, "cmdAction").GetLabel(), "Add");
-            Type(dialog, "txtTokenName", u" MORE");
-            Type(dialog, "txtTokenValue", u"More \u20AC");
+                Utf16Bytes(before) + (*button == 'A' ? "x" : ""));  // half a character
+        script_.ExpectDialog("Add New Token", [button = button](wxDialog& dialog) {
+            Type(dialog, kTokenName, u" MORE");
+            Type(dialog, kTokenValue, u"More \u20AC");
             Press(dialog, button);
         });
-        Press(Window(), "cmdAddToken");
+        Press(Window(), "Add Token...");
         EXPECT_EQ(Token(), kHello);
         EXPECT_EQ(FileBytes(kReferenceMap), Utf16Bytes(after));
     }
-    EXPECT_EQ(Entries("lbxTokens"), List({kHello, u"[CV_TXT- MORE]: More \u20AC"}));
+    EXPECT_EQ(Entries(kTokens), List({kHello, u"[CV_TXT- MORE]: More \u20AC"}));
 }
 
 TEST_F(Dialogs, ATokenIsRemovedAsFarAsTheUserWants) {
@@ -98,23 +95,23 @@ TEST_F(Dialogs, ATokenIsRemovedAsFarAsTheUserWants) {
                            "WebMail-default.net-tokens-fr.map.old"};
     for (const char* file : files)
         PutFile(file, language);
-    Pick(Window(), "lstLanguages", u"French");
-    RemoveToken("cmdCancel");
-    RemoveToken("cmdAction", wxID_CANCEL);
+    Pick(Window(), kLanguages, u"French");
+    RemoveToken("Cancel");
+    RemoveToken("Remove", wxID_CANCEL);
     EXPECT_EQ(FileBytes(kReferenceMap), reference);
-    RemoveToken("cmdAction", wxID_NO);
-    EXPECT_EQ(Entries("lbxTokens"), List({kBye, kNew}));
+    RemoveToken("Remove", wxID_NO);
+    EXPECT_EQ(Entries(kTokens), List({kBye, kNew}));
     EXPECT_EQ(FileBytes(kFrenchMap), language);
 
     PutFile(kReferenceMap, reference);
-    Pick(Window(), "lstLanguages", u"German");
+    Pick(Window(), kLanguages, u"German");
     std::filesystem::remove(kReferenceMap);
-    RemoveToken("cmdAction", wxID_YES);
+    RemoveToken("Remove", wxID_YES);
     EXPECT_EQ(FileBytes(kFrenchMap), language);
     PutFile(kReferenceMap, reference);
-    Pick(Window(), "lstLanguages", u"German");
-    RemoveToken("cmdAction", wxID_YES);
-    EXPECT_EQ(Entries("lbxTokens"), List({kBye, kNew}));
+    Pick(Window(), kLanguages, u"German");
+    RemoveToken("Remove", wxID_YES);
+    EXPECT_EQ(Entries(kTokens), List({kBye, kNew}));
     for (const char* file : files) {
         const bool isOfBase = file == files[0] || file == files[1];
         EXPECT_EQ(FileBytes(file), isOfBase ? Utf16Bytes(kept) : language) << file;
@@ -132,17 +129,17 @@ TEST_F(Dialogs, TheDefaultTranslationComesFromTheDistributionServer) {
     std::string published = Utf16Bytes(u"[CV_TXT-HELLO]\tSalut\r\n");
     published += std::string(5000, '\0');
     PutFile(folder / kFrenchMap, published);
-    Pick(Window(ConfiguredServices()), "lstLanguages", u"French");
+    Pick(Window(ConfiguredServices()), kLanguages, u"French");
     for (const int answer : {wxID_NO, wxID_YES}) {
         EXPECT_NE(FileBytes(kFrenchMap), published);
         script_.ExpectBox("Update Language File: WebMail[default.net]", question,
                           wxYES_NO | wxICON_QUESTION, answer);
-        Choose(Window(), frmMain::mnuFetchDefault);
+        Choose(Window(), "File", "Fetch Default Translation");
     }
     EXPECT_EQ(FileBytes(kFrenchMap), published);
     EXPECT_EQ(Translation(), u"Bonjour");  // nothing is reloaded until a token is clicked
-    Pick(Window(), "lbxTokens", kBye);
-    Pick(Window(), "lbxTokens", kHello);
+    Pick(Window(), kTokens, kBye);
+    Pick(Window(), kTokens, kHello);
     EXPECT_EQ(Translation(), u"Salut");
 }
 

@@ -10,6 +10,14 @@ namespace cvlang {
 
 using List = std::vector<std::u16string>;
 
+// The labels of the lists and of the text.
+inline constexpr const char* kApplicationList = "Current Application:";
+inline constexpr const char* kBases = "Application Base:";
+inline constexpr const char* kLanguages = "Target Language:";
+inline constexpr const char* kTokens = "Tokens:";
+inline constexpr const char* kDetails = "Original Token:";
+inline constexpr const char* kTranslation = "Translated Token Value:";
+
 inline constexpr long kInformation = wxOK | wxICON_INFORMATION;
 inline constexpr long kCritical = wxOK | wxICON_ERROR;
 
@@ -57,8 +65,8 @@ class MainWindow : public testing::Test {
         return *window_;
     }
 
-    std::u16string Translation() { return Find<TextBox>(Window(), "txtTranslation").Text(); }
-    std::u16string Token() { return Find<SelectionList>(Window(), "lbxTokens").SelectedText(); }
+    std::u16string Translation() { return Find<TextBox>(Window(), kTranslation).Text(); }
+    std::u16string Token() { return Find<SelectionList>(Window(), kTokens).SelectedText(); }
     const List& Entries(const char* list) { return Find<SelectionList>(Window(), list).Entries(); }
 
     FakeProgram fake_;

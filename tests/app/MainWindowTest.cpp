@@ -11,29 +11,29 @@ namespace cvlang {
 namespace {
 
 TEST_F(MainWindow, OpensWithNoLanguageAndListsTokensWhenOneIsClicked) {
-    EXPECT_EQ(Entries("lstApplication"), List({u"WebMail", u"WebAdmin"}));
-    EXPECT_EQ(Entries("lstBases"), List({u"default.net", u"zephra.net"}));
-    EXPECT_EQ(Entries("lstLanguages").size(), 13U);
-    EXPECT_TRUE(Entries("lbxTokens").empty());
+    EXPECT_EQ(Entries(kApplicationList), List({u"WebMail", u"WebAdmin"}));
+    EXPECT_EQ(Entries(kBases), List({u"default.net", u"zephra.net"}));
+    EXPECT_EQ(Entries(kLanguages).size(), 13U);
+    EXPECT_TRUE(Entries(kTokens).empty());
 
-    Pick(Window(), "lstLanguages", u"French");
-    EXPECT_EQ(Entries("lbxTokens"), List({kHello, kBye, kNew}));
+    Pick(Window(), kLanguages, u"French");
+    EXPECT_EQ(Entries(kTokens), List({kHello, kBye, kNew}));
     EXPECT_EQ(Translation(), u"Bonjour");
-    const auto& details = Find<wxListCtrl>(Window(), "lvwTokenDetails");
+    const auto& details = Find<wxListCtrl>(Window(), kDetails);
     EXPECT_EQ(details.GetItemText(0, 0) + "|" + details.GetItemText(0, 1), "[CV_TXT-HELLO]|Hello");
 
-    Pick(Window(), "lbxTokens", kNew);
+    Pick(Window(), kTokens, kNew);
     EXPECT_EQ(details.GetItemText(0, 0) + "|" + details.GetItemText(0, 1), "[CV_TXT-NEW]|");
     EXPECT_EQ(Translation(), u"");
 
     // Another base forgets the language; the tokens stay until one is clicked.
-    Pick(Window(), "lstBases", u"zephra.net");
-    EXPECT_EQ(Find<SelectionList>(Window(), "lstLanguages").SelectedText(), u"");
-    EXPECT_EQ(Entries("lbxTokens").size(), 3U);
-    Pick(Window(), "lstLanguages", u"French");
-    EXPECT_TRUE(Entries("lbxTokens").empty());
+    Pick(Window(), kBases, u"zephra.net");
+    EXPECT_EQ(Find<SelectionList>(Window(), kLanguages).SelectedText(), u"");
+    EXPECT_EQ(Entries(kTokens).size(), 3U);
+    Pick(Window(), kLanguages, u"French");
+    EXPECT_TRUE(Entries(kTokens).empty());
 
-    Pick(Window(), "lstApplication", u"WebAdmin");
+    Pick(Window(), kApplicationList, u"WebAdmin");
     EXPECT_EQ(program_.CurrentApplication, u"WebAdmin");
     EXPECT_EQ(FileBytes("WebAdmin-WebAdmin-lang.txt").substr(0, 12), "Chinese\tzh\r\n");
 }
@@ -43,19 +43,19 @@ TEST_F(MainWindow, SavesWhatIsTypedAndNothingElse) {
     const std::u16string values[] = {u"\u05E9\u05DC\u05D5\u05DD \u65E5\u672C\uD55C",
                                      u"\U0001F600 \u0391\u03B8", u"a\xD800z",
                                      std::u16string(70000, u'x')};
-    Pick(Window(), "lstLanguages", u"French");
+    Pick(Window(), kLanguages, u"French");
     for (const std::u16string& value : values) {
         const std::string bytes =
             Utf16Bytes(u"[CV_TXT-HELLO]\t" + value + u"\r\n[CV_TXT-BYE]\tAu revoir\r\n");
         PutFile(kFrenchMap, bytes);
-        Pick(Window(), "lbxTokens", kBye);
-        Pick(Window(), "lbxTokens", kHello);
-        Press(Window(), "cmdUpdate");
+        Pick(Window(), kTokens, kBye);
+        Pick(Window(), kTokens, kHello);
+        Press(Window(), "Update File");
         EXPECT_EQ(FileBytes(kFrenchMap), bytes);
         if (value.size() < 100) {
-            Pick(Window(), "lbxTokens", kNew);
-            Type(Window(), "txtTranslation", value);
-            Press(Window(), "cmdUpdate");
+            Pick(Window(), kTokens, kNew);
+            Type(Window(), kTranslation, value);
+            Press(Window(), "Update File");
             const std::string added = Utf16Bytes(u"[CV_TXT-NEW]\t" + value + u"\r\n").substr(2);
             EXPECT_EQ(FileBytes(kFrenchMap), bytes + added);
         }
@@ -68,22 +68,22 @@ TEST_F(MainWindow, AppliesATranslationAndSaysSoWhateverHappened) {
             "Language Generation",
             "Translated web pages were generated sucessfully for " + language + " language.",
             kInformation);
-        Press(Window(), "cmdApply");
+        Press(Window(), "Apply Translation");
         EXPECT_EQ(FileBytes("LANGUAGES.TAB"), Utf16Bytes(u"fr\tFrench\r\n"));
     };
-    Pick(Window(), "lstLanguages", u"French");
+    Pick(Window(), kLanguages, u"French");
     for (int times = 0; times < 2; ++times)
         apply("French");
     EXPECT_EQ(FileBytes("NETWebMail/default/lang/fr/Login.aspx"),
               "\xEF\xBB\xBF" + std::string("Bonjour"));
-    Pick(Window(), "lstBases", u"zephra.net");  // has no pages, and no language is selected
+    Pick(Window(), kBases, u"zephra.net");  // has no pages, and no language is selected
     apply("");
 }
 
 TEST_F(MainWindow, CannotBeUsedWhileItAsksForPatience) {
     Window();
     program_.waiting->Begin();
-    auto& wait = Find<wxWindow>(Window(), "frmWait");
+    auto& wait = Find<wxDialog>(Window(), "Please Wait ...");
     EXPECT_TRUE(wait.IsShown() && wxIsBusy() && !Window().IsEnabled());
     program_.waiting->Expect([] { return 4; });
     wxMilliSleep(60);
@@ -97,13 +97,13 @@ TEST_F(MainWindow, CannotBeUsedWhileItAsksForPatience) {
 TEST_F(MainWindow, WorksWithoutAnyBase) {
     std::filesystem::remove_all("NETWebMail");
     script_.ExpectBox("Setup Issue", "Error: No web applications wewre detected", kCritical);
-    EXPECT_TRUE(Entries("lstBases").empty());
+    EXPECT_TRUE(Entries(kBases).empty());
     EXPECT_TRUE(Window().IsShown());
-    Press(Window(), "cmdRemoveToken");
+    Press(Window(), "Remove Token...");
     script_.ExpectBox("Help About..", "Corvane Language Translation Utility (Version 3.0)",
                       kInformation);
-    Choose(Window(), frmMain::mnuHelpAbout);
-    Press(Window(), "cmdUpdate");
+    Choose(Window(), "Help", "About..");
+    Press(Window(), "Update File");
     EXPECT_EQ(FileBytes("WebMail--tokens-.map"), Utf16Bytes(u"\t\r\n"));
 }
 
@@ -111,7 +111,7 @@ TEST_F(MainWindow, LivesOnAfterAnUnexpectedError) {
     fake_.registry.fails = true;
     for (int i = 0; i < 2; ++i)
         script_.ExpectBox("CVLangTranslator", "The registry is gone", kCritical);
-    Press(Window(), "cmdUpdate");
+    Press(Window(), "Update File");
 }
 
 class MainWindowKeys : public MainWindow {
@@ -137,7 +137,7 @@ class MainWindowKeys : public MainWindow {
 };
 
 TEST_F(MainWindowKeys, WalkThroughAllControlsWithoutClickingAnything) {
-    Find<wxWindow>(Window(), "lstApplication").SetFocus();
+    Find<wxWindow>(Window(), kApplicationList).SetFocus();
     wxString names;
     for (int i = 0; i < 11; ++i) {
         names += wxWindow::FindFocus()->GetName() + " ";
@@ -146,18 +146,18 @@ TEST_F(MainWindowKeys, WalkThroughAllControlsWithoutClickingAnything) {
     EXPECT_EQ(names,
               "lstApplication lstBases lstLanguages lbxTokens lvwTokenDetails txtTranslation "
               "cmdUpdate cmdAddToken cmdRemoveToken cmdApply cmdQuit ");
-    EXPECT_EQ(Find<SelectionList>(Window(), "lstLanguages").SelectedText(), u"");
+    EXPECT_EQ(Find<SelectionList>(Window(), kLanguages).SelectedText(), u"");
 
-    Find<wxWindow>(Window(), "lstLanguages").SetFocus();
+    Find<wxWindow>(Window(), kLanguages).SetFocus();
     Key(WXK_DOWN);  // an arrow key does click
-    EXPECT_NE(Find<SelectionList>(Window(), "lstLanguages").SelectedText(), u"");
-    EXPECT_EQ(Entries("lbxTokens").size(), 3U);
+    EXPECT_NE(Find<SelectionList>(Window(), kLanguages).SelectedText(), u"");
+    EXPECT_EQ(Entries(kTokens).size(), 3U);
 }
 
 TEST_F(MainWindowKeys, SaveFindAndMoveOn) {
-    Pick(Window(), "lstLanguages", u"French");
-    Find<wxWindow>(Window(), "txtTranslation").SetFocus();
-    Find<TextBox>(Window(), "txtTranslation").SetInsertionPointEnd();
+    Pick(Window(), kLanguages, u"French");
+    Find<wxWindow>(Window(), kTranslation).SetFocus();
+    Find<TextBox>(Window(), kTranslation).SetInsertionPointEnd();
     wxUIActionSimulator().Text("ab");
     WaitForKeys();
     EXPECT_EQ(Translation(), u"Bonjourab");
@@ -171,7 +171,7 @@ TEST_F(MainWindowKeys, SaveFindAndMoveOn) {
     Key(WXK_RETURN, wxMOD_CONTROL);
     EXPECT_EQ(FileBytes(kFrenchMap),
               Utf16Bytes(u"[CV_TXT-HELLO]\tBonjourcd\r\n[CV_TXT-BYE]\tAu revoir\r\n"));
-    script_.ExpectDialog("dialog", [](wxDialog& dialog) {
+    script_.ExpectDialog("Find", [](wxDialog& dialog) {
         dynamic_cast<wxTextEntryDialog&>(dialog).SetValue("O");
         dialog.EndModal(wxID_OK);
     });
@@ -188,21 +188,21 @@ TEST_F(MainWindowKeys, SaveFindAndMoveOn) {
         Key(key, modifiers);
         EXPECT_EQ(Token(), token);
     }
-    Type(Window(), "txtTranslation", u"not saved");
+    Type(Window(), kTranslation, u"not saved");
     Key(WXK_DOWN, wxMOD_CONTROL | wxMOD_SHIFT);  // finds the same token: nothing is loaded
     EXPECT_EQ(Translation(), u"not saved");
 }
 
 TEST_F(MainWindowKeys, PasteOnOneLine) {
-    Pick(Window(), "lstLanguages", u"French");
-    Pick(Window(), "lbxTokens", kNew);
-    Find<wxWindow>(Window(), "txtTranslation").SetFocus();
+    Pick(Window(), kLanguages, u"French");
+    Pick(Window(), kTokens, kNew);
+    Find<wxWindow>(Window(), kTranslation).SetFocus();
     ASSERT_TRUE(wxTheClipboard->Open());
     wxTheClipboard->SetData(new wxTextDataObject("a\r\nb\tc\nd"));
     wxTheClipboard->Close();
     Key('V', wxMOD_CONTROL);
     EXPECT_EQ(Translation(), u"a b c d");
-    Find<TextBox>(Window(), "txtTranslation").WriteText("\te");  // as if it were dropped
+    Find<TextBox>(Window(), kTranslation).WriteText("\te");  // as if it were dropped
     EXPECT_EQ(Translation(), u"a b c d e");
 }
 

@@ -26,9 +26,9 @@ class Submitting : public MainWindow {
     frmMain& WindowWith(int port) { return Window({{}, {u"t@x", u"127.0.0.1", port}}); }
 
     static void Send(wxDialog& dialog, const std::u16string& to, const std::u16string& from) {
-        Type(dialog, "txtTo", to);
-        Type(dialog, "txtFrom", from);
-        Press(dialog, "cmdSend");
+        Type(dialog, "To:", to);
+        Type(dialog, "From:", from);
+        Press(dialog, "Send");
     }
 
     void ExpectQuestion(int answer) {
@@ -46,20 +46,20 @@ class Submitting : public MainWindow {
 
 TEST_F(Submitting, SendsWhatTheUserSeesOnceHeAgrees) {
     ScriptedPeer server("220|250|250|250|354|250");
-    Pick(WindowWith(server.Port()), "lstLanguages", u"French");
-    script_.ExpectDialog("frmSend", [](wxDialog& dialog) {
-        EXPECT_EQ(Find<TextBox>(dialog, "txtTo").Text(), u"t@x");
-        EXPECT_EQ(Find<TextBox>(dialog, "txtAttachments").GetValue(),
+    Pick(WindowWith(server.Port()), kLanguages, u"French");
+    script_.ExpectDialog("Submit Language Files", [](wxDialog& dialog) {
+        EXPECT_EQ(Find<TextBox>(dialog, "To:").Text(), u"t@x");
+        EXPECT_EQ(Find<TextBox>(dialog, "Attachments:").GetValue(),
                   wxString(kReferenceMap) + ", " + kFrenchMap);
         auto& body = Find<wxTextCtrl>(dialog, "txtBody");
         EXPECT_TRUE(body.GetValue().StartsWith("Dear Support Team,"));
         body.SetValue("a\n\nb");
         Send(dialog, u"t@y", u"f@");
         EXPECT_EQ(wxWindow::FindFocus()->GetName(), "txtFrom");
-        EXPECT_EQ(Find<TextBox>(dialog, "txtFrom").GetStringSelection(), "f@");
+        EXPECT_EQ(Find<TextBox>(dialog, "From:").GetStringSelection(), "f@");
         Send(dialog, u"t@y", u"f@x");
         EXPECT_TRUE(dialog.IsShown());
-        Press(dialog, "cmdSend");
+        Press(dialog, "Send");
     });
     script_.ExpectBox("Invalid Address",
                       "Invalid sender address. Please specify a valid email address for the 'From' "
@@ -68,7 +68,7 @@ TEST_F(Submitting, SendsWhatTheUserSeesOnceHeAgrees) {
     ExpectQuestion(wxID_NO);
     ExpectQuestion(wxID_YES);
     ExpectSuccess();
-    Choose(Window(), frmMain::mnuSubmitActive);
+    Choose(Window(), "Submit", "Submit Active Translation");
     const std::string mail = server.Received();
     for (const char* part :
          {"MAIL FROM:<f@x>\r\n", "RCPT TO:<t@y>\r\n", "\r\na\r\n\r\nb\r\n",
@@ -79,10 +79,11 @@ TEST_F(Submitting, SendsWhatTheUserSeesOnceHeAgrees) {
 
 TEST_F(Submitting, ReportsSuccessThoughTheServerRefuses) {
     ScriptedPeer refusing("421 closed");
-    script_.ExpectDialog("frmSend", [](wxDialog& dialog) { Send(dialog, u"t@x", u"f@x"); });
+    script_.ExpectDialog("Submit Language Files",
+                         [](wxDialog& dialog) { Send(dialog, u"t@x", u"f@x"); });
     ExpectQuestion(wxID_YES);
     ExpectSuccess();
-    Choose(WindowWith(refusing.Port()), frmMain::menuSubmitAll);
+    Choose(WindowWith(refusing.Port()), "Submit", "Submit All Translations");
     EXPECT_TRUE(
         fake_.ErrorLog().ends_with("\tSMTP Server is not contactable for domain: 127.0.0.1\r\n"));
 }
@@ -100,14 +101,14 @@ TEST_F(Submitting, SurvivesAnErrorAmidTheMail) {
     ScriptedPeer server("220");
     FailingWait waiting(&WindowWith(server.Port()));
     program_.waiting = &waiting;
-    script_.ExpectDialog("frmSend", [](wxDialog& dialog) {
+    script_.ExpectDialog("Submit Language Files", [](wxDialog& dialog) {
         Send(dialog, u"t@x", u"f@x");
         EXPECT_TRUE(dialog.IsShown());
-        Press(dialog, "cmdCancel");
+        Press(dialog, "Cancel");
     });
     ExpectQuestion(wxID_YES);
     script_.ExpectBox("CVLangTranslator", "No memory left", kCritical);
-    Choose(Window(), frmMain::menuSubmitAll);
+    Choose(Window(), "Submit", "Submit All Translations");
 }
 
 TEST_F(Submitting, TellsThatThereIsNothingToSend) {
@@ -116,7 +117,7 @@ TEST_F(Submitting, TellsThatThereIsNothingToSend) {
     script_.ExpectBox("Send Error",
                       "No translated files for the default.netbase were available to send.",
                       kInformation);
-    Choose(Window(), frmMain::menuSubmitAll);
+    Choose(Window(), "Submit", "Submit All Translations");
 }
 
 }  // namespace

@@ -1,13 +1,67 @@
 #include "support/WindowScript.h"
 
 #include <wx/app.h>
+#include <wx/dcmemory.h>
+#include <wx/dcscreen.h>
+#include <wx/display.h>
+#include <wx/menu.h>
 #include <wx/msgdlg.h>
+#include <wx/stattext.h>
 
 #include <algorithm>
 
 #include "widgets/Text.h"
 
 namespace cvlang {
+namespace {
+
+/// The control that a window's text names, if it is that text.
+wxWindow* NamedBy(wxWindow& window, const wxString& text) {
+    if (!window.IsShownOnScreen() || window.GetLabel() != text)
+        return nullptr;
+    return dynamic_cast<wxStaticText*>(&window) == nullptr ? &window : window.GetNextSibling();
+}
+
+wxWindow* FindBelow(wxWindow& parent, const wxString& text) {
+    for (wxWindow* child : parent.GetChildren()) {
+        wxWindow* found = NamedBy(*child, text);
+        if (found == nullptr && !child->IsTopLevel())
+            found = FindBelow(*child, text);
+        if (found != nullptr)
+            return found;
+    }
+    return nullptr;
+}
+
+[[noreturn]] void Miss(const wxString& text, const wxWindow& window) {
+    const wxString where = window.GetLabel().empty() ? window.GetName() : window.GetLabel();
+    throw std::runtime_error(wxString("There is no \"" + text + "\" in " + where).utf8_string());
+}
+
+wxMenuItem* FindEntry(const wxMenuBar& bar, const wxString& menu, const wxString& entry) {
+    const int position = bar.FindMenu(menu);
+    if (position == wxNOT_FOUND)
+        return nullptr;
+    for (wxMenuItem* item : bar.GetMenu(static_cast<std::size_t>(position))->GetMenuItems()) {
+        if (item->GetItemLabelText() == entry && item->IsEnabled())
+            return item;
+    }
+    return nullptr;
+}
+
+void RunIn(wxDialog& dialog, const std::function<void(wxDialog&)>& actions) {
+    try {
+        actions(dialog);
+    } catch (const std::exception& error) {
+        ADD_FAILURE() << error.what();
+    }
+    if (dialog.IsModal()) {
+        ADD_FAILURE() << dialog.GetTitle() << " is still open";
+        dialog.EndModal(wxID_CANCEL);
+    }
+}
+
+}  // namespace
 
 void Settle() {
     for (int i = 0; i < 3; ++i) {
@@ -16,25 +70,41 @@ void Settle() {
     }
 }
 
-void Press(wxWindow& parent, const char* button) {
-    wxButton& pressed = Find<wxButton>(parent, button);
+wxWindow& FindByText(wxWindow& parent, const wxString& text) {
+    wxWindow* found = FindBelow(parent, text);
+    if (found == nullptr)
+        found = wxWindow::FindWindowByName(text, &parent);
+    if (found == nullptr)
+        Miss(text, parent);
+    return *found;
+}
+
+void Press(wxWindow& parent, const wxString& button) {
+    auto& pressed = Find<wxButton>(parent, button);
+    EXPECT_TRUE(pressed.IsEnabled()) << button;
+    const wxRect screen = wxDisplay(&pressed).GetClientArea();
+    EXPECT_TRUE(screen.Contains(pressed.GetScreenRect())) << button << " is off the screen";
     wxCommandEvent event(wxEVT_BUTTON, pressed.GetId());
     event.SetEventObject(&pressed);
     pressed.Command(event);
     Settle();
 }
 
-void Choose(wxWindow& frame, int menuEntry) {
-    wxCommandEvent event(wxEVT_MENU, menuEntry);
+void Choose(wxFrame& frame, const wxString& menu, const wxString& entry) {
+    const wxMenuItem* item = FindEntry(*frame.GetMenuBar(), menu, entry);
+    if (item == nullptr)
+        Miss(menu + " > " + entry, frame);
+    wxCommandEvent event(wxEVT_MENU, item->GetId());
     frame.ProcessWindowEvent(event);
     Settle();
 }
 
-void Pick(wxWindow& parent, const char* list, const std::u16string& entry) {
+void Pick(wxWindow& parent, const wxString& list, const std::u16string& entry) {
     auto& picked = Find<SelectionList>(parent, list);
     const auto& entries = picked.Entries();
     const auto found = std::find(entries.begin(), entries.end(), entry);
-    ASSERT_NE(found, entries.end()) << ToWx(entry) << " in " << list;
+    if (found == entries.end())
+        Miss(ToWx(entry), picked);
     wxCommandEvent event(wxEVT_LISTBOX, picked.GetId());
     event.SetInt(static_cast<int>(found - entries.begin()));
     event.SetExtraLong(1);  // selected, not deselected
@@ -43,9 +113,16 @@ void Pick(wxWindow& parent, const char* list, const std::u16string& entry) {
     Settle();
 }
 
-void Type(wxWindow& parent, const char* box, const std::u16string& text) {
+void Type(wxWindow& parent, const wxString& box, const std::u16string& text) {
     Find<wxTextCtrl>(parent, box).SetValue(ToWx(text));
     Settle();
+}
+
+wxImage ScreenPixels(const wxRect& place) {
+    wxBitmap copy(place.GetSize(), 24);
+    wxScreenDC screen;
+    wxMemoryDC(copy).Blit({0, 0}, place.GetSize(), &screen, place.GetPosition());
+    return copy.ConvertToImage();
 }
 
 WindowScript::~WindowScript() {
@@ -56,7 +133,7 @@ WindowScript::~WindowScript() {
 void WindowScript::ExpectBox(const wxString& title, const wxString& text, long style, int answer) {
     steps_.emplace_back(title, [=](wxDialog& dialog) {
         constexpr long kAskedFor = wxYES_NO | wxOK | wxCANCEL | wxICON_MASK;
-        const auto* box = dynamic_cast<wxMessageDialog*>(&dialog);
+        const auto* box = dynamic_cast<wxMessageDialogBase*>(&dialog);
         EXPECT_EQ(dialog.GetTitle(), title);
         EXPECT_EQ(box == nullptr ? "not a message box" : box->GetMessage(), text);
         EXPECT_EQ(box == nullptr ? -1 : box->GetMessageDialogStyle() & kAskedFor, style) << text;
@@ -65,14 +142,14 @@ void WindowScript::ExpectBox(const wxString& title, const wxString& text, long s
 }
 
 /// The dialog is shown, and the actions run inside its own event loop.
-void WindowScript::ExpectDialog(const wxString& name, std::function<void(wxDialog&)> actions) {
-    steps_.emplace_back(name, [name, actions = std::move(actions)](wxDialog& dialog) {
-        EXPECT_EQ(dialog.GetName(), name);
-        dialog.CallAfter([actions, &dialog] {
-            actions(dialog);
-            if (dialog.IsShown()) {
-                ADD_FAILURE() << dialog.GetTitle() << " is still open";
-                dialog.EndModal(wxID_CANCEL);
+void WindowScript::ExpectDialog(const wxString& title, std::function<void(wxDialog&)> actions) {
+    steps_.emplace_back(title, [title, actions = std::move(actions)](wxDialog& dialog) {
+        EXPECT_EQ(dialog.GetTitle(), title);
+        // Not at once: while a window waits for its frame, other events are processed.
+        dialog.Bind(wxEVT_IDLE, [&dialog, actions, begun = false](wxIdleEvent&) mutable {
+            if (!begun && dialog.IsModal()) {
+                begun = true;
+                dialog.CallAfter([&dialog, actions] { RunIn(dialog, actions); });
             }
         });
         return static_cast<int>(wxID_NONE);

@@ -1,14 +1,18 @@
 // What a user does at windows, in tests: answers boxes, works in dialogs, presses, picks and types.
+// Buttons, menu entries, lists and fields are found by the texts on the screen.
 #pragma once
 
 #include <gtest/gtest.h>
 #include <wx/button.h>
 #include <wx/dialog.h>
+#include <wx/frame.h>
+#include <wx/image.h>
 #include <wx/modalhook.h>
 #include <wx/window.h>
 
 #include <deque>
 #include <functional>
+#include <stdexcept>
 #include <string>
 
 #include "widgets/SelectionList.h"
@@ -21,23 +25,32 @@ inline void PrintTo(const wxString& text, std::ostream* out) {
 
 namespace cvlang {
 
-/// Lets the toolkit work through everything that is waiting.
+/// Lets the toolkit process everything that is waiting.
 void Settle();
 
-/// A window below another, by its name.
+/// A visible control in a window: a button by its caption, another one by the label before it, one
+/// without either by its name. Throws when there is none.
+wxWindow& FindByText(wxWindow& parent, const wxString& text);
+
 template <typename Window>
-Window& Find(wxWindow& parent, const char* name) {
-    auto* found = dynamic_cast<Window*>(wxWindow::FindWindowByName(name, &parent));
-    EXPECT_NE(found, nullptr) << name;
+Window& Find(wxWindow& parent, const wxString& text) {
+    auto* found = dynamic_cast<Window*>(&FindByText(parent, text));
+    if (found == nullptr)
+        throw std::runtime_error("Another kind of control: " + text.utf8_string());
     return *found;
 }
 
-void Press(wxWindow& parent, const char* button);
-void Choose(wxWindow& frame, int menuEntry);
+/// Presses a button, which must be enabled and inside the screen.
+void Press(wxWindow& parent, const wxString& button);
+/// Chooses an entry of a menu, both without their mnemonics.
+void Choose(wxFrame& frame, const wxString& menu, const wxString& entry);
 /// Selects an entry as a mouse click or an arrow key does.
-void Pick(wxWindow& parent, const char* list, const std::u16string& entry);
+void Pick(wxWindow& parent, const wxString& list, const std::u16string& entry);
 /// Replaces the text of a box as typing does.
-void Type(wxWindow& parent, const char* box, const std::u16string& text);
+void Type(wxWindow& parent, const wxString& box, const std::u16string& text);
+
+/// What the screen shows at a place.
+wxImage ScreenPixels(const wxRect& place);
 
 /// Stands by while windows wait for the user. Each box and dialog must have been foreseen, in
 /// order; one that was not is closed and fails the test, as does one that does not come.
@@ -48,13 +61,13 @@ class WindowScript : private wxModalDialogHook {
 
     /// A message box: its title, text and style flags (buttons and icon), and the answer.
     void ExpectBox(const wxString& title, const wxString& text, long style, int answer = wxID_OK);
-    /// A dialog of the program; the actions close it, as a user must.
-    void ExpectDialog(const wxString& name, std::function<void(wxDialog&)> actions);
+    /// A dialog of the program, by its title; the actions close it, as a user must.
+    void ExpectDialog(const wxString& title, std::function<void(wxDialog&)> actions);
 
   private:
     int Enter(wxDialog* dialog) override;
 
-    /// What is foreseen, by its title or name: looks at the dialog and returns the answer.
+    /// What is foreseen, by its title: looks at the dialog and returns the answer.
     std::deque<std::pair<wxString, std::function<int(wxDialog&)>>> steps_;
 };
 
