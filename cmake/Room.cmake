@@ -1,11 +1,22 @@
 # cvlang_room(NAME SOURCES ... USES ...)
-# One folder of src/ as a static library, cvlang_NAME, that links the rooms it may use and no others.
+# A folder of src/, or a part of one, as a static library, cvlang_NAME, that links the rooms it may use and no others.
+# USES is the one place that states the direction of use. rooms.txt in the build folder lists the folders that each
+# folder may include; scripts/check compares the includes with it.
+file(WRITE ${PROJECT_BINARY_DIR}/rooms.txt "")
 function(cvlang_room name)
     cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
     add_library(cvlang_${name} STATIC ${ROOM_SOURCES})
     target_include_directories(cvlang_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
     target_link_libraries(cvlang_${name} PRIVATE cvlang_options)
+    cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
+    set(may_include ${folder})
     foreach(used IN LISTS ROOM_USES)
         target_link_libraries(cvlang_${name} PUBLIC cvlang_${used})
+        get_target_property(inherited cvlang_${used} CVLANG_MAY_INCLUDE)
+        list(APPEND may_include ${inherited})
     endforeach()
+    list(REMOVE_DUPLICATES may_include)
+    set_target_properties(cvlang_${name} PROPERTIES CVLANG_MAY_INCLUDE "${may_include}")
+    list(JOIN may_include " " may_include)
+    file(APPEND ${PROJECT_BINARY_DIR}/rooms.txt "${folder} ${may_include}\n")
 endfunction()

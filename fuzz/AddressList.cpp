@@ -1,7 +1,7 @@
 #include "mail/AddressList.h"
 
 #include "fuzz/Fuzz.h"
-#include "mail/IgnoringCase.h"
+#include "text/AsciiCase.h"
 
 void cvlang::Try(std::string_view input) {
     const char separator = input.find(';') == input.npos ? ',' : ';';

@@ -3,7 +3,7 @@
 
 #include "fuzz/Fuzz.h"
 #include "platform/Process.h"
-#include "platform/Utf8.h"
+#include "text/Unicode.h"
 
 void cvlang::Try(std::string_view input) {
     const std::u16string text = Utf8ToUtf16(input);

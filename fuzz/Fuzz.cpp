@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "platform/Utf8.h"
+#include "text/Unicode.h"
 
 namespace cvlang {
 

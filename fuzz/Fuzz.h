@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "support/FakeProgram.h"
-#include "translation/Lines.h"
+#include "text/Lines.h"
 
 namespace cvlang {
 

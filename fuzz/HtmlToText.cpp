@@ -1,7 +1,7 @@
 #include "mail/HtmlToText.h"
 
 #include "fuzz/Fuzz.h"
-#include "mail/IgnoringCase.h"
+#include "text/AsciiCase.h"
 
 void cvlang::Try(std::string_view input) {
     const std::string text = HTMLToText(input, LineBreaks::Kept);

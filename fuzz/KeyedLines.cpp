@@ -1,11 +1,10 @@
 // The first line is the token, the second its value, the rest the file.
-#include "translation/KeyedLines.h"
+#include "translation/StoreFile.h"
 
-#include "config/TextHelpers.h"
 #include "fuzz/Fuzz.h"
-#include "platform/Utf8.h"
-#include "translation/TokenLines.h"
-#include "translation/Utf16File.h"
+#include "text/Strings.h"
+#include "text/Unicode.h"
+#include "translation/TokenEditing.h"
 
 namespace cvlang {
 namespace {
@@ -44,7 +43,7 @@ void cvlang::Try(std::string_view input) {
         return;
     PutFile("t.map", StoreFile(input));
     Texts lines = FileLines();
-    RewriteKeyedLine("t.map", "_t.map", token, value, fake.logs);
+    RewriteKeyedLine({"t.map", "_t.map"}, token, value, fake.logs);
     Must(FileLines() == Expected(lines, token, value), "the token's lines change, no other does");
     Must(FileBytes("_t.map") == "(no file)", "no temporary file is left");
 

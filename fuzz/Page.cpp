@@ -5,7 +5,7 @@
 #include "fuzz/Fuzz.h"
 #include "generation/PlaceholderSubstitution.h"
 #include "generation/PlainSubstitution.h"
-#include "platform/Utf8.h"
+#include "text/Unicode.h"
 
 void cvlang::Try(std::string_view input) {
     std::deque<std::u16string> texts;

@@ -1,7 +1,7 @@
 #include "platform/posix/RegistryExport.h"
 
 #include "fuzz/Fuzz.h"
-#include "platform/Utf8.h"
+#include "text/Unicode.h"
 
 namespace cvlang {
 namespace {

@@ -1,7 +1,6 @@
 #include "translation/TokenMapFile.h"
 
 #include "fuzz/Fuzz.h"
-#include "translation/TokenList.h"
 
 void cvlang::Try(std::string_view input) {
     const FakeProgram& fake = Surroundings();
@@ -10,7 +9,8 @@ void cvlang::Try(std::string_view input) {
     TextArray tokens(1, u"held");
     TextArray values(3, u"held");
     Utf16File file;
-    LoadTokens(fake.config, u"WebMail", u"default", u"French", file, tokens, values);
+    LoadLanguageTokensIntoArrays(fake.config, {u"WebMail", u"default", u"French"}, file, tokens,
+                                 values);
     const bool isEmpty = StoreFile(input).size() < 4;
     Must(isEmpty || tokens.size() == values.size(), "each token has its value");
     Must(tokens[0] == u"held" && values[0] == u"held", "the first elements stay");
@@ -22,7 +22,7 @@ void cvlang::Try(std::string_view input) {
         if (asked.starts_with(kTokenPrefix) && asked.ends_with(u']'))
             asked += u": English [x]: more";
         const std::u16string_view value = values[static_cast<std::size_t>(first)];
-        Must(GetTokenValue(fake.config, u"WebMail", asked, u"default", u"French") == value,
+        Must(TokenValue(fake.config, asked, {u"WebMail", u"default", u"French"}) == value,
              "a token, or its list entry, is found where it is loaded first");
     }
     for (const std::u16string& entry : ListTokens(kFile))

@@ -113,14 +113,14 @@ class PicturesApp : public wxApp {
         Find<SelectionList>(*window_, "lbxTokens").Click(2);
         TakePicture("main-window", *window_);
         ShowDialogs();
-        program_.waiting->Begin();
-        program_.waiting->Expect([] { return 5; });
+        program_.progress->Begin();
+        program_.progress->Expect([] { return 5; });
         for (int i = 0; i < 3; ++i) {
             wxMilliSleep(60);
-            program_.waiting->Step();
+            program_.progress->Step();
         }
         TakePicture("wait", *wxWindow::FindWindowByName("frmWait"));
-        program_.waiting->End();
+        program_.progress->End();
         window_->Destroy();
         Settle();
     }

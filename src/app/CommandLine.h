@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "config/Program.h"
+#include "run/Program.h"
 
 namespace cvlang {
 

@@ -1,5 +1,5 @@
 #include "app/CommandLine.h"
-#include "app/Window.h"
+#include "app/WindowMode.h"
 #include "platform/Process.h"
 
 namespace cvlang {

@@ -2,8 +2,8 @@
 
 #include <limits>
 
-#include "config/TextHelpers.h"
 #include "platform/Process.h"
+#include "text/Strings.h"
 
 namespace cvlang {
 namespace {

@@ -1,7 +1,7 @@
 #include "app/TokenRemoval.h"
 
 #include "platform/FileSystem.h"
-#include "translation/TokenLines.h"
+#include "translation/TokenEditing.h"
 
 namespace cvlang {
 

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string_view>
 
-#include "config/UserMessages.h"
+#include "run/UserMessages.h"
 
 namespace cvlang {
 

@@ -24,13 +24,11 @@ std::optional<std::size_t> FindNext(const std::vector<std::u16string>& entries,
 
 /// A token that stands twice has the value of its first line.
 std::unordered_set<std::u16string> TranslatedTokens(const Program& program,
-                                                    std::u16string_view base,
-                                                    std::u16string_view language) {
+                                                    const Selection& selection) {
     Utf16File mapFile;
     TextArray tokens;
     TextArray values;
-    LoadLanguageTokensIntoArrays(program.config, program.CurrentApplication, base, language,
-                                 mapFile, tokens, values);
+    LoadLanguageTokensIntoArrays(program.config, selection, mapFile, tokens, values);
     std::unordered_set<std::u16string_view> seen;
     std::unordered_set<std::u16string> translated;
     for (std::size_t i = 1; i < tokens.size(); ++i) {
@@ -54,9 +52,8 @@ std::optional<std::size_t> FindEntry(const std::vector<std::u16string>& entries,
 std::optional<std::size_t> FindUntranslated(const Program& program,
                                             const std::vector<std::u16string>& entries,
                                             std::optional<std::size_t> selected,
-                                            std::u16string_view base,
-                                            std::u16string_view language) {
-    const auto translated = TranslatedTokens(program, base, language);
+                                            const Selection& selection) {
+    const auto translated = TranslatedTokens(program, selection);
     return FindNext(entries, selected, [&translated](const std::u16string& entry) {
         return !translated.contains(std::u16string(NormaliseToken(entry)));
     });

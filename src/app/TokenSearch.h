@@ -8,7 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "config/Program.h"
+#include "run/Program.h"
+#include "translation/Selection.h"
 
 namespace cvlang {
 
@@ -21,6 +22,6 @@ std::optional<std::size_t> FindEntry(const std::vector<std::u16string>& entries,
 std::optional<std::size_t> FindUntranslated(const Program& program,
                                             const std::vector<std::u16string>& entries,
                                             std::optional<std::size_t> selected,
-                                            std::u16string_view base, std::u16string_view language);
+                                            const Selection& selection);
 
 }  // namespace cvlang

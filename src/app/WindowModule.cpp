@@ -1,5 +1,5 @@
 // Window mode from the module. Without the module the program is as without a display.
-#include "app/Window.h"
+#include "app/WindowMode.h"
 #include "platform/Process.h"
 #include "platform/SharedModule.h"
 

@@ -1,5 +1,5 @@
 // The module's two functions, by the names that the program looks them up with.
-#include "app/Window.h"
+#include "app/WindowMode.h"
 
 extern "C" {
 

@@ -3,8 +3,8 @@
 #include <wx/button.h>
 
 #include "app/TokenRemoval.h"
-#include "translation/TokenLines.h"
-#include "translation/TokenList.h"
+#include "translation/TokenEditing.h"
+#include "translation/TokenMapFile.h"
 #include "widgets/Dialogs.h"
 #include "widgets/ErrorGuard.h"
 #include "widgets/Layout.h"

@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <string_view>
 
-#include "config/UserMessages.h"
+#include "run/UserMessages.h"
 
 class wxButton;
 

@@ -6,16 +6,15 @@
 #include <wx/utils.h>
 
 #include "app/ApplicationDiscovery.h"
-#include "app/LanguageGeneration.h"
+#include "app/ApplyCommand.h"
 #include "app/TokenSearch.h"
 #include "app/frmAddLanguage.h"
 #include "app/frmAddToken.h"
 #include "submission/frmSend.h"
-#include "translation/LanguageTable.h"
-#include "translation/NewLanguage.h"
-#include "translation/TokenList.h"
+#include "translation/LanguageList.h"
+#include "translation/StorePaths.h"
+#include "translation/TokenEditing.h"
 #include "translation/TokenMapFile.h"
-#include "translation/TokenUpdate.h"
 #include "widgets/SelectionList.h"
 #include "widgets/Text.h"
 #include "widgets/TextBox.h"
@@ -27,7 +26,7 @@ frmMain::frmMain(Program& program, MakerServices services)
               wxDefaultSize, wxDEFAULT_FRAME_STYLE, "frmMain"),
       program_(program),
       services_(std::move(services)) {
-    program_.waiting = &waiting_;
+    program_.progress = &waiting_;
     ShowIcon();
     CreateMenu();
     CreateControls();
@@ -44,7 +43,7 @@ void frmMain::ShowIcon() {
 }
 
 frmMain::~frmMain() {
-    program_.waiting = &WaitDisplay::None();
+    program_.progress = &Progress::None();
 }
 
 void frmMain::LoadWindow() {
@@ -58,7 +57,7 @@ void frmMain::LoadWindow() {
 void frmMain::FillBases() {
     lstBases->Fill(DetectBases(program_.config, kProbedApplication));
     if (lstBases->Entries().empty()) {
-        // Users know the words as they are spelt here.
+        // Deliberate: "wewre".
         program_.messages.Show({u"Error: No web applications wewre detected", u"Setup Issue",
                                 MessageButtons::Ok, MessageIcon::Critical});
     }
@@ -70,11 +69,10 @@ void frmMain::LoadTokenList() {
     lbxTokens->Click(0);
 }
 
-/// Clicks list the languages of the application's own file, not of the selected base's, on purpose:
-/// what administrators have written into it decides what is offered.
-void frmMain::LoadLanguageList(std::u16string_view listedUnder) {
-    lstLanguages->Fill(
-        cvlang::LoadLanguageList(program_.config, program_.CurrentApplication, listedUnder));
+/// Deliberate: clicks list the languages of the application's own file, not of the selected base's.
+void frmMain::LoadLanguageList(const std::u16string& listedUnder) {
+    lstLanguages->Fill(cvlang::LoadLanguageList(
+        program_.config, {.application = program_.CurrentApplication, .base = listedUnder}));
 }
 
 void frmMain::OnApplicationClick() {
@@ -97,17 +95,16 @@ void frmMain::OnTokenClick() {
     lvwTokenDetails->DeleteAllItems();
     lvwTokenDetails->InsertItem(0, ToWx(entry.token));
     lvwTokenDetails->SetItem(0, 1, ToWx(entry.value));
-    txtTranslation->Load(GetTokenValue(program_.config, program_.CurrentApplication, selected,
-                                       lstBases->SelectedText(), lstLanguages->SelectedText()));
+    txtTranslation->Load(
+        GetTokenValue(program_, selected, lstBases->SelectedText(), lstLanguages->SelectedText()));
 }
 
 void frmMain::OnUpdate() {
-    UpdateToken(program_, lstBases->SelectedText(), lstLanguages->SelectedText(),
-                lbxTokens->SelectedText(), txtTranslation->Text());
+    UpdateToken(program_, CurrentSelection(), lbxTokens->SelectedText(), txtTranslation->Text());
 }
 
 void frmMain::OnApply() {
-    GenerateLanguage(program_, lstBases->SelectedText(), lstLanguages->SelectedText());
+    GenerateLanguage(program_, CurrentSelection());
 }
 
 void frmMain::OnAddToken() {
@@ -127,9 +124,7 @@ void frmMain::OnQuit() {
 }
 
 void frmMain::OnFetchDefault() {
-    FetchDefaultTranslation(
-        program_, services_.distribution,
-        {lstApplication->SelectedText(), lstBases->SelectedText(), lstLanguages->SelectedText()});
+    FetchDefaultTranslation(program_, services_.distribution, CurrentSelection());
 }
 
 void frmMain::OnNewLanguage() {
@@ -139,26 +134,22 @@ void frmMain::OnNewLanguage() {
     std::u16string name;
     std::u16string abbreviation;
     if (dialog.AddLanguage(name, abbreviation) &&
-        AddLanguageToBase(program_, base, name, abbreviation)) {
+        AddLanguageToBase(program_, CurrentSelection(), name, abbreviation)) {
         // The base's own list, so that the new language is seen.
         LoadLanguageList(base);
     }
 }
 
 void frmMain::OnSubmitActive() {
-    const std::u16string base = lstBases->SelectedText();
-    const std::u16string language = lstLanguages->SelectedText();
+    const Selection selection = CurrentSelection();
     frmSend(this, program_, services_.submission)
-        .SubmitFile(
-            ReferenceMapFile(),
-            GetLanguageMapFilePath(program_.config, program_.CurrentApplication, base, language),
-            lstApplication->SelectedText(), language, base);
+        .SubmitFile(ReferenceMapFile(), GetLanguageMapFilePath(program_.config, selection),
+                    selection);
 }
 
 void frmMain::OnSubmitAll() {
     frmSend(this, program_, services_.submission)
-        .SubmitAllFiles(ReferenceMapFile(), lstApplication->SelectedText(),
-                        lstBases->SelectedText());
+        .SubmitAllFiles(ReferenceMapFile(), CurrentSelection());
 }
 
 void frmMain::OnAbout() {
@@ -183,8 +174,8 @@ void frmMain::OnPrevious() {
 }
 
 void frmMain::OnNextUntranslated() {
-    ClickFound(FindUntranslated(program_, lbxTokens->Entries(), SelectedToken(),
-                                lstBases->SelectedText(), lstLanguages->SelectedText()));
+    ClickFound(
+        FindUntranslated(program_, lbxTokens->Entries(), SelectedToken(), CurrentSelection()));
 }
 
 void frmMain::OnFind() {
@@ -220,9 +211,12 @@ void frmMain::ClickFound(std::optional<std::size_t> index) {
     }
 }
 
+Selection frmMain::CurrentSelection() const {
+    return {program_.CurrentApplication, lstBases->SelectedText(), lstLanguages->SelectedText()};
+}
+
 std::filesystem::path frmMain::ReferenceMapFile() const {
-    return GetReferenceMapFilePath(program_.config, program_.CurrentApplication,
-                                   lstBases->SelectedText());
+    return GetReferenceMapFilePath(program_.config, CurrentSelection());
 }
 
 }  // namespace cvlang

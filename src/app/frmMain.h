@@ -9,7 +9,8 @@
 #include <string_view>
 
 #include "app/MakerServices.h"
-#include "config/Program.h"
+#include "run/Program.h"
+#include "translation/Selection.h"
 #include "widgets/frmWait.h"
 
 class wxButton;
@@ -72,7 +73,7 @@ class frmMain : public wxFrame {
     void LoadWindow();
     void FillBases();
     void LoadTokenList();
-    void LoadLanguageList(std::u16string_view listedUnder);
+    void LoadLanguageList(const std::u16string& listedUnder);
 
     void OnApplicationClick();
     void OnBaseClick();
@@ -101,6 +102,7 @@ class frmMain : public wxFrame {
     std::optional<std::size_t> SelectedToken() const;
     void ClickFound(std::optional<std::size_t> index);
 
+    Selection CurrentSelection() const;
     std::filesystem::path ReferenceMapFile() const;
 
     Program& program_;

@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "platform/Paths.h"
+#include "text/Strings.h"
 
 namespace cvlang {
 namespace {
@@ -26,6 +27,26 @@ std::u16string OrOnFailure(std::u16string_view fallback, Read read) {
 std::u16string ProductKey() {
     const std::u16string product = Configuration::GetProductName();
     return u"SOFTWARE\\" + product + u"\\" + product;
+}
+
+std::u16string Hexadecimal(std::uint32_t number) {
+    std::u16string digits;
+    do {
+        digits.insert(digits.begin(), u"0123456789ABCDEF"[number % 16]);
+        number /= 16;
+    } while (number != 0);
+    return digits;
+}
+
+std::u16string PaddedHexadecimal(std::uint32_t number, int width) {
+    const std::u16string digits = Hexadecimal(number);
+    return ZeroPad(width, static_cast<int>(digits.size())) + digits;
+}
+
+/// The digits as a number format of two places leaves them: it pads what reads as a decimal number,
+/// and "A" does not.
+std::u16string FormattedByte(std::uint8_t byte) {
+    return byte < 10 ? PaddedHexadecimal(byte, 2) : Hexadecimal(byte);
 }
 
 }  // namespace
@@ -83,6 +104,21 @@ std::int32_t Configuration::GetAuthoringVersion() const {
 
 std::int32_t Configuration::GetLanguageAuthoring() const {
     return ReadProductDword(u"Language Authoring");
+}
+
+std::u16string CreateGuidString(const GuidSource& newGuid) {
+    const auto guid = newGuid();
+    if (!guid)
+        return u"00000000";
+    std::u16string text = PaddedHexadecimal(guid->first, 8) + PaddedHexadecimal(guid->second, 4) +
+                          PaddedHexadecimal(guid->third, 4);
+    for (const std::uint8_t byte : guid->last)
+        text += FormattedByte(byte);
+    return text;
+}
+
+std::u16string GetLocalComputerName() {
+    return ComputerName();
 }
 
 }  // namespace cvlang

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/Registry.h"
+#include "platform/SystemInformation.h"
 
 namespace cvlang {
 
@@ -48,5 +49,12 @@ class Configuration {
 
     const Registry& registry_;
 };
+
+/// A new GUID in capitals, without separators, or "00000000" when the system makes none. 24 to 32
+/// characters: deliberately, each of the last eight bytes from 0A to 0F is written with one digit.
+std::u16string CreateGuidString(const GuidSource& newGuid = NewGuid);
+
+/// The computer's name; empty when the system does not know it.
+std::u16string GetLocalComputerName();
 
 }  // namespace cvlang

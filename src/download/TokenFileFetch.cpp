@@ -4,8 +4,8 @@
 
 #include "platform/FileSystem.h"
 #include "platform/Paths.h"
-#include "translation/LanguageTable.h"
-#include "translation/MapFilePaths.h"
+#include "translation/LanguageList.h"
+#include "translation/StorePaths.h"
 
 namespace cvlang {
 namespace {
@@ -14,12 +14,12 @@ constexpr std::string_view kErrorPage = "<!DOCTYPE HTML PUBLIC";
 constexpr std::string_view kUtf16ByteOrderMark = "\xFF\xFE";
 
 /// "WebMail[default.net]", as the titles and the question have it.
-std::u16string Name(const FetchSelection& selection) {
+std::u16string Name(const Selection& selection) {
     return selection.application + u"[" + selection.base + u"]";
 }
 
 // The wording, "to the this language" included, is what users and their documentation know.
-UserMessage OverwriteQuestion(const FetchSelection& selection) {
+UserMessage OverwriteQuestion(const Selection& selection) {
     return {u"You have requested to download the default/current " + selection.language +
                 u" translation table for " + Name(selection) +
                 u" from the Corvane web site.\r\n\r\n"
@@ -34,8 +34,8 @@ bool IsProtected(const Configuration& config, const std::filesystem::path& file)
 }
 
 std::string Download(Program& program, const DistributionServer& server, std::u16string_view path) {
-    const WaitScope waiting(*program.waiting);
-    return HttpGet(path, server.host, server.port, [&program] { program.waiting->Step(); });
+    const ProgressScope waiting(*program.progress);
+    return HttpGet(path, server.host, server.port, [&program] { program.progress->Step(); });
 }
 
 /// Each pair of bytes is a character already; what is missing is the mark in front of them.
@@ -46,17 +46,16 @@ std::string Content(const std::string& body, bool unicode) {
 }  // namespace
 
 void FetchDefaultTranslation(Program& program, const DistributionServer& server,
-                             const FetchSelection& selection) {
+                             const Selection& selection) {
     if (program.messages.Show(OverwriteQuestion(selection)) != MessageAnswer::Yes)
         return;
-    const std::u16string symbol = GetLanguageAbbreviation(program.config, selection.application,
-                                                          selection.language, selection.base);
+    const std::u16string symbol = LanguageAbbreviation(program.config, selection);
     if (symbol.empty()) {
         program.messages.Show({u"Language Symbol not found", u"Warning", MessageButtons::Ok,
                                MessageIcon::Exclamation});
     }
     FetchTokenFile(program, server, selection.application, selection.base,
-                   PublishedMapFile(selection.application, selection.base, symbol));
+                   PublishedMapFile(selection, symbol));
 }
 
 void FetchTokenFile(Program& program, const DistributionServer& server,

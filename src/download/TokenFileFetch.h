@@ -5,8 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "config/Program.h"
 #include "download/HttpClient.h"
+#include "run/Program.h"
+#include "translation/Selection.h"
 
 namespace cvlang {
 
@@ -16,17 +17,10 @@ struct DistributionServer {
     std::uint16_t port = kHttpPort;
 };
 
-/// What the window's lists show at one moment.
-struct FetchSelection {
-    std::u16string application;
-    std::u16string base;
-    std::u16string language;
-};
-
 /// Asks the user and fetches the map file of what is selected. A language without abbreviation is
 /// warned of and fetched all the same.
 void FetchDefaultTranslation(Program& program, const DistributionServer& server,
-                             const FetchSelection& selection);
+                             const Selection& selection);
 
 /// Fetches one map file and tells the user when that failed.
 void FetchTokenFile(Program& program, const DistributionServer& server,

@@ -10,7 +10,7 @@
 #include "platform/FolderCopy.h"
 #include "platform/FolderListing.h"
 #include "platform/Paths.h"
-#include "translation/LanguageTable.h"
+#include "translation/LanguageList.h"
 #include "translation/TokenMapFile.h"
 
 namespace cvlang {
@@ -41,11 +41,9 @@ struct ContentFolders {
     bool areTheDrive = false;
 };
 
-ContentFolders FoldersOf(const Configuration& config, std::u16string_view application,
-                         std::u16string_view base, std::u16string_view language) {
-    const std::u16string root = GetLanguageRoot(config, application, base);
-    const std::u16string abbreviation =
-        GetLanguageAbbreviation(config, application, language, base);
+ContentFolders FoldersOf(const Configuration& config, const Selection& selection) {
+    const std::u16string root = GetLanguageRoot(config, selection);
+    const std::u16string abbreviation = LanguageAbbreviation(config, selection);
     const fs::path reference = PathFromText(JoinedPath({root, GetReferenceLanguageCode(config)}));
     const fs::path folder = PathFromText(JoinedPath({root, abbreviation}));
     // Without a root the folders are those at the root of the drive, by exactly these names: Linux
@@ -83,19 +81,17 @@ void TraceTokenUse(Program& program, const TextArray& arrTokens) {
 
 }  // namespace
 
-bool ApplyTranslation(Program& program, std::u16string_view sApplication, std::u16string_view sBase,
-                      std::u16string_view sLanguage) {
-    program.waiting->Expect([&] {
-        return CountSteps(FoldersOf(program.config, sApplication, sBase, sLanguage).reference);
-    });
-    if (!PrepareLanguageFolder(program, sApplication, sBase, sLanguage, 1))
+bool ApplyTranslation(Program& program, const Selection& selection) {
+    program.progress->Expect(
+        [&] { return CountSteps(FoldersOf(program.config, selection).reference); });
+    if (!PrepareLanguageFolder(program, selection, 1))
         return false;
     Utf16File mapFile;
     TextArray arrTokens(1);
     TextArray arrValues(1);
-    LoadTokens(program.config, sApplication, sBase, sLanguage, mapFile, arrTokens, arrValues);
-    PageTranslator pages(program, sLanguage, sBase, sApplication, arrTokens, arrValues);
-    const ContentFolders folders = FoldersOf(program.config, sApplication, sBase, sLanguage);
+    LoadLanguageTokensIntoArrays(program.config, selection, mapFile, arrTokens, arrValues);
+    PageTranslator pages(program, selection, arrTokens, arrValues);
+    const ContentFolders folders = FoldersOf(program.config, selection);
     if (!folders.areTheDrive)
         TranslateFolder(folders.language, pages, true);
     if (program.config.IsDebugMode())
@@ -103,16 +99,14 @@ bool ApplyTranslation(Program& program, std::u16string_view sApplication, std::u
     return true;
 }
 
-bool PrepareLanguageFolder(Program& program, std::u16string_view sApplication,
-                           std::u16string_view sBase, std::u16string_view sLanguage,
-                           int iNoPrompt) {
-    const ContentFolders folders = FoldersOf(program.config, sApplication, sBase, sLanguage);
+bool PrepareLanguageFolder(Program& program, const Selection& selection, int iNoPrompt) {
+    const ContentFolders folders = FoldersOf(program.config, selection);
     if (folders.areTheDrive)
         return true;
     const bool existed = !CreateFolder(folders.language);
     if (iNoPrompt == 0 && !program.unattended && existed && !MayOverwrite(program))
         return false;
-    const auto step = [&program] { program.waiting->Step(); };
+    const auto step = [&program] { program.progress->Step(); };
     CopyFilesOf(folders.reference, folders.language, CopiedAttributes::Archive, step);
     CopyFoldersOf(folders.reference, folders.language, step);
     return true;

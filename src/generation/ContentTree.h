@@ -2,23 +2,29 @@
 #pragma once
 
 #include <filesystem>
-#include <string_view>
+#include <string>
+#include <utility>
 
-#include "config/Program.h"
 #include "generation/PageTranslator.h"
+#include "run/Program.h"
 
 namespace cvlang {
 
 /// Generates the pages of a language for an application base, over what is there already. True when
 /// the language's folder was prepared, whatever became of single files.
-bool ApplyTranslation(Program& program, std::u16string_view sApplication, std::u16string_view sBase,
-                      std::u16string_view sLanguage);
+bool ApplyTranslation(Program& program, const Selection& selection);
+
+/// The same for an application, a base and a language.
+inline bool ApplyTranslation(Program& program, std::u16string sApplication, std::u16string sBase,
+                             std::u16string sLanguage) {
+    return ApplyTranslation(program,
+                            {std::move(sApplication), std::move(sBase), std::move(sLanguage)});
+}
 
 /// Copies the reference folder into the language's folder, overwriting; files that only the
 /// language's folder has stay. When the folder exists already, `iNoPrompt` is 0 and the program has
 /// a window, the user is asked first. False when he declined.
-bool PrepareLanguageFolder(Program& program, std::u16string_view sApplication,
-                           std::u16string_view sBase, std::u16string_view sLanguage, int iNoPrompt);
+bool PrepareLanguageFolder(Program& program, const Selection& selection, int iNoPrompt);
 
 /// Translates the pages in a folder, those of its subfolders before its own when `bRecurse` is set.
 /// Links to folders are not followed.

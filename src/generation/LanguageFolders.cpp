@@ -2,7 +2,7 @@
 
 #include "platform/LetterCase.h"
 #include "platform/Paths.h"
-#include "translation/MapFilePaths.h"
+#include "translation/StorePaths.h"
 
 namespace cvlang {
 namespace {
@@ -23,17 +23,17 @@ constexpr NetBase kNetBases[] = {
 
 }  // namespace
 
-std::u16string GetLanguageRoot(const Configuration& config, std::u16string_view application,
-                               std::u16string_view base) {
-    const bool webMail = ToUpper(application) == u"WEBMAIL";
+std::u16string GetLanguageRoot(const Configuration& config, const Selection& selection) {
+    const bool webMail = ToUpper(selection.application) == u"WEBMAIL";
     const std::u16string sourceRoot = config.GetSourceRoot();
     if (!sourceRoot.empty())
-        return JoinedPath({sourceRoot, webMail ? u"WebMail" : u"WebAdmin", u"base", base, u"lang"});
+        return JoinedPath(
+            {sourceRoot, webMail ? u"WebMail" : u"WebAdmin", u"base", selection.base, u"lang"});
 
-    // As stored, without the usual place of installation: pages are never generated where nothing
-    // is installed.
+    // As stored, without the usual place of installation: nothing is generated where nothing is
+    // installed.
     const std::u16string directory = config.GetProgramDirectory();
-    const std::u16string upperBase = ToUpper(base);
+    const std::u16string upperBase = ToUpper(selection.base);
     for (const NetBase& net : kNetBases) {
         if (net.upperName != upperBase)
             continue;

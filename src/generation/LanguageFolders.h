@@ -3,16 +3,15 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "config/Configuration.h"
+#include "translation/Selection.h"
 
 namespace cvlang {
 
 /// The language root of an application base, without a separator at its end; empty when the base
 /// has none. Letter case does not matter in either name.
-std::u16string GetLanguageRoot(const Configuration& config, std::u16string_view application,
-                               std::u16string_view base);
+std::u16string GetLanguageRoot(const Configuration& config, const Selection& selection);
 
 /// The name of the reference folder: "SYS", or "EN" with the old names.
 std::u16string GetReferenceLanguageCode(const Configuration& config);

@@ -5,7 +5,7 @@
 #include "generation/LanguageFolders.h"
 #include "platform/LetterCase.h"
 #include "platform/Paths.h"
-#include "translation/LanguageTable.h"
+#include "translation/LanguageList.h"
 
 namespace cvlang {
 namespace {
@@ -40,13 +40,11 @@ ScriptMode ScriptModeOf(const fs::path& path, bool scriptAware) {
 
 }  // namespace
 
-PageTranslator::PageTranslator(Program& program, std::u16string_view sLanguage,
-                               std::u16string_view sBase, std::u16string_view sApplication,
+PageTranslator::PageTranslator(Program& program, const Selection& selection,
                                const TextArray& arrTokens, const TextArray& arrValues)
     : program_(program),
       referencePart_(FolderPart(GetReferenceLanguageCode(program.config))),
-      languagePart_(FolderPart(
-          ToUpper(GetLanguageAbbreviation(program.config, sApplication, sLanguage, sBase)))),
+      languagePart_(FolderPart(ToUpper(LanguageAbbreviation(program.config, selection)))),
       tokens_(arrTokens, arrValues),
       substitution_(tokens_, UseCountsFor(program, arrTokens.size())) {}
 
@@ -56,7 +54,7 @@ void PageTranslator::TranslateFile(const fs::path& sSourcePath, bool bScriptAwar
 }
 
 void PageTranslator::TranslateFile(const Folder& folder, const fs::path& name, bool bScriptAware) {
-    program_.waiting->Step();
+    program_.progress->Step();
     try {
         if (ReadFile(folder, name, source_) == FileStatus::Okay) {
             RewriteFile(folder, name, bScriptAware);

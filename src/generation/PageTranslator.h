@@ -6,21 +6,19 @@
 #include <string_view>
 #include <vector>
 
-#include "config/Program.h"
 #include "generation/PageText.h"
 #include "generation/PlaceholderSubstitution.h"
 #include "generation/TokenIndex.h"
 #include "platform/FileSystem.h"
+#include "run/Program.h"
 
 namespace cvlang {
 
 /// What the pages of one run share.
 class PageTranslator {
   public:
-    /// Language, base and application name the language's folder; the arrays are those of
-    /// LoadTokens.
-    PageTranslator(Program& program, std::u16string_view sLanguage, std::u16string_view sBase,
-                   std::u16string_view sApplication, const TextArray& arrTokens,
+    /// The arrays are those of LoadLanguageTokensIntoArrays.
+    PageTranslator(Program& program, const Selection& selection, const TextArray& arrTokens,
                    const TextArray& arrValues);
     PageTranslator(const PageTranslator&) = delete;
     PageTranslator& operator=(const PageTranslator&) = delete;

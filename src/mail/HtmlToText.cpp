@@ -1,6 +1,6 @@
 #include "mail/HtmlToText.h"
 
-#include "mail/IgnoringCase.h"
+#include "text/AsciiCase.h"
 
 namespace cvlang {
 namespace {

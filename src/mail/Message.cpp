@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "config/TextHelpers.h"
 #include "mail/AddressList.h"
 #include "mail/Base64.h"
 #include "mail/MailDate.h"
@@ -14,6 +13,7 @@
 #include "platform/Ansi.h"
 #include "platform/FolderListing.h"
 #include "platform/Paths.h"
+#include "text/Strings.h"
 
 namespace cvlang {
 namespace {

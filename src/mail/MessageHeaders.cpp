@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "mail/AddressList.h"
-#include "mail/IgnoringCase.h"
+#include "text/AsciiCase.h"
 
 namespace cvlang {
 namespace {

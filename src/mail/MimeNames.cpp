@@ -3,7 +3,7 @@
 #include <array>
 #include <cstdio>
 
-#include "config/TextHelpers.h"
+#include "config/Configuration.h"
 #include "platform/Ansi.h"
 
 namespace cvlang {

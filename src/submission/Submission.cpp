@@ -2,7 +2,7 @@
 
 #include "platform/FolderListing.h"
 #include "platform/Paths.h"
-#include "translation/MapFilePaths.h"
+#include "translation/StorePaths.h"
 
 namespace cvlang {
 namespace {
@@ -34,25 +34,23 @@ std::optional<AddressFault> FaultOf(AddressBox box, std::u16string_view address,
 
 }  // namespace
 
-std::u16string SubmissionSubject(std::u16string_view application, std::u16string_view base,
-                                 std::u16string_view language) {
-    return Joined(
-        {u"[Language Token File Submission]: ", application, u" - ", base, u" (", language, u")"});
+std::u16string SubmissionSubject(const Selection& selection) {
+    return u"[Language Token File Submission]: " + selection.application + u" - " + selection.base +
+           u" (" + selection.language + u")";
 }
 
-std::u16string SubmissionBody(std::u16string_view application, std::u16string_view base,
-                              std::u16string_view language) {
+std::u16string SubmissionBody(const Selection& selection) {
     constexpr std::u16string_view kGreeting = u"Dear Support Team,\r\n\r\n";
     constexpr std::u16string_view kAttached =
         u"I have attached the language token files for the following: \r\n\r\n";
-    return Joined({kGreeting, kAttached, u"Application: \t", application, u"\r\nBase: \t\t", base,
-                   u"\r\nLanguage: \t\t", language, u"\r\n\r\nRegards,\r\n"});
+    return Joined({kGreeting, kAttached, u"Application: \t", selection.application,
+                   u"\r\nBase: \t\t", selection.base, u"\r\nLanguage: \t\t", selection.language,
+                   u"\r\n\r\nRegards,\r\n"});
 }
 
 std::vector<std::filesystem::path> MapFilesOfBase(const std::filesystem::path& sMapFilePath,
-                                                  std::u16string_view sApp,
-                                                  std::u16string_view sBase) {
-    const std::u16string start = MapFilePrefix(sApp, sBase) + u"tokens";
+                                                  const Selection& selection) {
+    const std::u16string start = MapFilePrefix(selection);
     const std::filesystem::path folder = FindExisting(sMapFilePath.parent_path());
     std::vector<std::filesystem::path> files;
     for (const std::filesystem::path& file : ListFolder(folder).files) {

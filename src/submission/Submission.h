@@ -8,7 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "config/UserMessages.h"
+#include "run/UserMessages.h"
+#include "translation/Selection.h"
 
 namespace cvlang {
 
@@ -22,18 +23,15 @@ struct SubmissionTarget {
 /// What stands for the language when the files of all languages are submitted.
 inline constexpr std::u16string_view kAllLanguages = u"All Languages";
 
-std::u16string SubmissionSubject(std::u16string_view application, std::u16string_view base,
-                                 std::u16string_view language);
+std::u16string SubmissionSubject(const Selection& selection);
 
 /// The body with lines that end with CR LF; the user signs below it.
-std::u16string SubmissionBody(std::u16string_view application, std::u16string_view base,
-                              std::u16string_view language);
+std::u16string SubmissionBody(const Selection& selection);
 
 /// The full paths of an application base's map files, the English one among them, in the folder of
 /// sMapFilePath and in its order. Letter case counts in the names.
 std::vector<std::filesystem::path> MapFilesOfBase(const std::filesystem::path& sMapFilePath,
-                                                  std::u16string_view sApp,
-                                                  std::u16string_view sBase);
+                                                  const Selection& selection);
 
 enum class AddressBox { To, From };
 

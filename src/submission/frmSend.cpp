@@ -78,37 +78,35 @@ void frmSend::AddButtons(wxSizer& column) {
 }
 
 void frmSend::SubmitFile(const std::filesystem::path& sMapFilePath,
-                         const std::filesystem::path& sLangFilePath, std::u16string_view sApp,
-                         std::u16string_view sLanguage, std::u16string_view sBase) {
-    SetMessageText(sApp, sBase, sLanguage);
+                         const std::filesystem::path& sLangFilePath, const Selection& selection) {
+    SetMessageText(selection);
     Attach({sMapFilePath, sLangFilePath});
     ShowModal();
 }
 
-void frmSend::SubmitAllFiles(const std::filesystem::path& sMapFilePath, std::u16string_view sApp,
-                             std::u16string_view sBase) {
-    SetMessageText(sApp, sBase, kAllLanguages);
-    const auto files = MapFilesOfBase(sMapFilePath, sApp, sBase);
+void frmSend::SubmitAllFiles(const std::filesystem::path& sMapFilePath, Selection selection) {
+    selection.language = kAllLanguages;
+    SetMessageText(selection);
+    const auto files = MapFilesOfBase(sMapFilePath, selection);
     if (files.empty()) {
-        program_.messages.Show(NothingToSubmit(sBase));
+        program_.messages.Show(NothingToSubmit(selection.base));
         return;
     }
     Attach(files);
     ShowModal();
 }
 
-void frmSend::SetMessageText(std::u16string_view application, std::u16string_view base,
-                             std::u16string_view language) {
+void frmSend::SetMessageText(const Selection& selection) {
     txtTo->Load(target_.mailbox);
-    txtSubject->Load(SubmissionSubject(application, base, language));
-    txtBody->ChangeValue(ToWx(SubmissionBody(application, base, language)));
+    txtSubject->Load(SubmissionSubject(selection));
+    txtBody->ChangeValue(ToWx(SubmissionBody(selection)));
 }
 
 /// Starts a new message, which has these attachments and no others.
 void frmSend::Attach(const std::vector<std::filesystem::path>& files) {
     MailSurroundings surroundings;
     surroundings.processPendingEvents = RepaintWindows;
-    surroundings.beforeCommand = [this] { program_.waiting->Step(); };
+    surroundings.beforeCommand = [this] { program_.progress->Step(); };
     message_ = std::make_unique<Message>(program_.config, program_.logs, std::move(surroundings));
     std::u16string names;
     for (const std::filesystem::path& file : files) {
@@ -140,7 +138,7 @@ void frmSend::OnSend() {
 }
 
 void frmSend::Send() {
-    const WaitScope wait(*program_.waiting);
+    const ProgressScope wait(*program_.progress);
     message_->MailTo = Utf16ToAnsi(txtTo->Text());
     message_->MailFrom = Utf16ToAnsi(txtFrom->Text());
     message_->Subject = Utf16ToAnsi(txtSubject->Text());

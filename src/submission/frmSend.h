@@ -5,11 +5,10 @@
 
 #include <filesystem>
 #include <memory>
-#include <string_view>
 #include <vector>
 
-#include "config/Program.h"
 #include "mail/Message.h"
+#include "run/Program.h"
 #include "submission/Submission.h"
 
 class wxTextCtrl;
@@ -25,17 +24,14 @@ class frmSend : public wxDialog {
 
     /// Prepares a message with the English map file and one language's, and shows the dialog.
     void SubmitFile(const std::filesystem::path& sMapFilePath,
-                    const std::filesystem::path& sLangFilePath, std::u16string_view sApp,
-                    std::u16string_view sLanguage, std::u16string_view sBase);
+                    const std::filesystem::path& sLangFilePath, const Selection& selection);
 
     /// The same with all map files of an application base. Without any, the user is told instead.
-    void SubmitAllFiles(const std::filesystem::path& sMapFilePath, std::u16string_view sApp,
-                        std::u16string_view sBase);
+    void SubmitAllFiles(const std::filesystem::path& sMapFilePath, Selection selection);
 
   private:
     void AddButtons(wxSizer& column);
-    void SetMessageText(std::u16string_view application, std::u16string_view base,
-                        std::u16string_view language);
+    void SetMessageText(const Selection& selection);
     void Attach(const std::vector<std::filesystem::path>& files);
     bool ValidateAddresses();
     void OnSend();

@@ -3,22 +3,13 @@
 #include <algorithm>
 #include <utility>
 
-#include "config/TextHelpers.h"
-#include "translation/LanguageTable.h"
-#include "translation/Lines.h"
-#include "translation/MapFilePaths.h"
-#include "translation/Utf16File.h"
+#include "text/Lines.h"
+#include "text/Strings.h"
+#include "translation/LanguageList.h"
+#include "translation/StorePaths.h"
 
 namespace cvlang {
 namespace {
-
-std::filesystem::path LanguageMapFileIn(std::u16string_view directory, const Configuration& config,
-                                        std::u16string_view application, std::u16string_view base,
-                                        std::u16string_view language) {
-    return LanguageMapFile({directory, application, base},
-                           GetLanguageAbbreviation(config, application, language, base),
-                           config.GetAuthoringVersion());
-}
 
 void Resize(TextArray& array, std::size_t upperBound) {
     array.resize(upperBound + 1);
@@ -33,25 +24,10 @@ std::u16string_view NormaliseToken(std::u16string_view entry) {
     return entry.substr(0, end + 1);
 }
 
-std::filesystem::path GetReferenceMapFilePath(const Configuration& config,
-                                              std::u16string_view currentApplication,
-                                              std::u16string_view BaseName) {
-    return ReferenceMapFile({config.GetProgramDirectory(), currentApplication, BaseName});
-}
-
-std::filesystem::path GetLanguageMapFilePath(const Configuration& config,
-                                             std::u16string_view currentApplication,
-                                             std::u16string_view BaseName,
-                                             std::u16string_view LangName) {
-    return LanguageMapFileIn(config.GetProgramDirectory(), config, currentApplication, BaseName,
-                             LangName);
-}
-
-std::u16string GetTokenValue(const Configuration& config, std::u16string_view currentApplication,
-                             std::u16string_view token, std::u16string_view BaseName,
-                             std::u16string_view LangName) {
+std::u16string TokenValue(const Configuration& config, std::u16string_view token,
+                          const Selection& selection) {
     token = NormaliseToken(token);
-    const Utf16File file(GetLanguageMapFilePath(config, currentApplication, BaseName, LangName));
+    const Utf16File file(GetLanguageMapFilePath(config, selection));
     Lines<char16_t> lines(file.Text());
     for (std::u16string_view line; lines.Next(line);) {
         if (SplitField(line, kTab, kTokenField) == token)
@@ -60,11 +36,9 @@ std::u16string GetTokenValue(const Configuration& config, std::u16string_view cu
     return {};
 }
 
-void LoadLanguageTokensIntoArrays(const Configuration& config, std::u16string_view ApplicationName,
-                                  std::u16string_view BaseName, std::u16string_view LangName,
-                                  Utf16File& file, TextArray& arrTokens, TextArray& arrValues) {
-    Utf16File mapFile(LanguageMapFileIn(config.GetApplicationDirectory(), config, ApplicationName,
-                                        BaseName, LangName));
+void LoadTokens(const std::filesystem::path& path, Utf16File& file, TextArray& arrTokens,
+                TextArray& arrValues) {
+    Utf16File mapFile(path);
     const std::u16string_view text = mapFile.Text();
     if (text.empty())
         return;
@@ -86,6 +60,34 @@ void LoadLanguageTokensIntoArrays(const Configuration& config, std::u16string_vi
     }
     Resize(arrTokens, n);
     Resize(arrValues, n);
+}
+
+void LoadLanguageTokensIntoArrays(const Configuration& config, const Selection& selection,
+                                  Utf16File& file, TextArray& arrTokens, TextArray& arrValues) {
+    LoadTokens(
+        LanguageMapFile(config.GetApplicationDirectory(), selection,
+                        LanguageAbbreviation(config, selection), config.GetAuthoringVersion()),
+        file, arrTokens, arrValues);
+}
+
+std::vector<std::u16string> ListTokens(const std::filesystem::path& referenceMapFile) {
+    const Utf16File file(referenceMapFile);
+    std::vector<std::u16string> entries;
+    Lines<char16_t> lines(file.Text());
+    for (std::u16string_view line; lines.Next(line);) {
+        const std::u16string_view token = SplitField(line, kTab, kReferenceTokenField);
+        const std::u16string_view value = SplitField(line, kTab, kReferenceValueField);
+        if (!token.starts_with(kTokenPrefix))
+            continue;
+        std::u16string& entry = entries.emplace_back(token);
+        if (!value.empty())
+            entry.append(u": ").append(value);
+    }
+    return entries;
+}
+
+TokenEntry SplitTokenEntry(std::u16string_view entry) {
+    return {TrimBlanks(SplitField(entry, u":", 1)), TrimBlanks(SplitField(entry, u":", 2))};
 }
 
 }  // namespace cvlang

@@ -11,8 +11,9 @@
 #include <string_view>
 #include <vector>
 
-#include "config/Configuration.h"
-#include "translation/Utf16File.h"
+#include "run/Program.h"
+#include "translation/Selection.h"
+#include "translation/StoreFile.h"
 
 namespace cvlang {
 
@@ -31,31 +32,37 @@ using TextArray = std::vector<std::u16string_view>;
 /// itself.
 std::u16string_view NormaliseToken(std::u16string_view entry);
 
-/// The full path of the English map file of the selected application and base.
-std::filesystem::path GetReferenceMapFilePath(const Configuration& config,
-                                              std::u16string_view currentApplication,
-                                              std::u16string_view BaseName);
+/// The value of a token, or of a list entry, in the selected language; empty when the file cannot
+/// be opened or does not hold the token.
+std::u16string TokenValue(const Configuration& config, std::u16string_view token,
+                          const Selection& selection);
 
-/// The full path of a language's map file of the selected application and base.
-std::filesystem::path GetLanguageMapFilePath(const Configuration& config,
-                                             std::u16string_view currentApplication,
-                                             std::u16string_view BaseName,
-                                             std::u16string_view LangName);
-
-/// The value of a token, or of a list entry, in a language of the selected application; empty when
-/// the file cannot be opened or does not hold the token.
-std::u16string GetTokenValue(const Configuration& config, std::u16string_view currentApplication,
-                             std::u16string_view token, std::u16string_view BaseName,
-                             std::u16string_view LangName);
+/// The same for the current application, a base and a language.
+inline std::u16string GetTokenValue(const Program& program, std::u16string_view token,
+                                    std::u16string BaseName, std::u16string LangName) {
+    return TokenValue(program.config, token,
+                      {program.CurrentApplication, std::move(BaseName), std::move(LangName)});
+}
 
 /// Loads a language's map file: line k goes to element k of both arrays, element 0 stays as it is,
 /// and both end at the last line. The texts lie in `file` then. A map file that cannot be opened or
 /// holds no line leaves everything unchanged.
-void LoadLanguageTokensIntoArrays(const Configuration& config, std::u16string_view ApplicationName,
-                                  std::u16string_view BaseName, std::u16string_view LangName,
+void LoadTokens(const std::filesystem::path& path, Utf16File& file, TextArray& arrTokens,
+                TextArray& arrValues);
+
+/// The same for the selected language's map file.
+void LoadLanguageTokensIntoArrays(const Configuration& config, const Selection& selection,
                                   Utf16File& file, TextArray& arrTokens, TextArray& arrValues);
 
-/// The same, by the name that generation has for it.
-inline constexpr auto LoadTokens = LoadLanguageTokensIntoArrays;
+/// The entries of a reference map file, in its order; none when it cannot be opened. A token
+/// without a value stands alone, and only if it begins like a token.
+std::vector<std::u16string> ListTokens(const std::filesystem::path& referenceMapFile);
+
+/// The two parts of a list entry, trimmed of blanks. A value ends at its own first colon.
+struct TokenEntry {
+    std::u16string_view token;
+    std::u16string_view value;
+};
+TokenEntry SplitTokenEntry(std::u16string_view entry);
 
 }  // namespace cvlang

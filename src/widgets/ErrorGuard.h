@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "config/UserMessages.h"
+#include "run/UserMessages.h"
 
 namespace cvlang {
 

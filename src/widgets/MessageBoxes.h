@@ -1,7 +1,7 @@
 // Messages in the system's own boxes.
 #pragma once
 
-#include "config/UserMessages.h"
+#include "run/UserMessages.h"
 
 namespace cvlang {
 

@@ -7,7 +7,7 @@
 #include <functional>
 #include <memory>
 
-#include "config/Waiting.h"
+#include "run/Progress.h"
 
 class wxGauge;
 
@@ -32,7 +32,7 @@ class frmWait : public wxDialog {
 };
 
 /// Announces long work with the hourglass and the wait window. All input is refused meanwhile.
-class WaitWindow : public WaitDisplay {
+class WaitWindow : public Progress {
   public:
     /// The parent must outlive the object.
     explicit WaitWindow(wxWindow* parent);

@@ -82,14 +82,14 @@ TEST_F(MainWindow, AppliesATranslationAndSaysSoWhateverHappened) {
 
 TEST_F(MainWindow, CannotBeUsedWhileItAsksForPatience) {
     Window();
-    program_.waiting->Begin();
+    program_.progress->Begin();
     auto& wait = Find<wxDialog>(Window(), "Please Wait ...");
     EXPECT_TRUE(wait.IsShown() && wxIsBusy() && !Window().IsEnabled());
-    program_.waiting->Expect([] { return 4; });
+    program_.progress->Expect([] { return 4; });
     wxMilliSleep(60);
-    program_.waiting->Step();
+    program_.progress->Step();
     EXPECT_EQ(Find<wxGauge>(wait, "gauge").GetValue(), 1);
-    program_.waiting->End();
+    program_.progress->End();
     Settle();
     EXPECT_TRUE(!wxIsBusy() && Window().IsEnabled() && !wxWindow::FindWindowByName("frmWait"));
 }

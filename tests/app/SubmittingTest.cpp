@@ -100,7 +100,7 @@ struct FailingWait : WaitWindow {
 TEST_F(Submitting, SurvivesAnErrorAmidTheMail) {
     ScriptedPeer server("220");
     FailingWait waiting(&WindowWith(server.Port()));
-    program_.waiting = &waiting;
+    program_.progress = &waiting;
     script_.ExpectDialog("Submit Language Files", [](wxDialog& dialog) {
         Send(dialog, u"t@x", u"f@x");
         EXPECT_TRUE(dialog.IsShown());

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "config/TextHelpers.h"
 #include "platform/Ansi.h"
 #include "support/FakeProgram.h"
+#include "text/Strings.h"
 
 namespace cvlang {
 namespace {

@@ -1,6 +1,6 @@
 // UpdateOnce FOLDER: saves a French text of WebMail default.net, as the window does.
 #include "support/FakeProgram.h"
-#include "translation/TokenUpdate.h"
+#include "translation/TokenEditing.h"
 
 int main(int, char** argv) {
     cvlang::FakeRegistry registry;
@@ -10,6 +10,6 @@ int main(int, char** argv) {
     cvlang::Logs logs;
     cvlang::RecordingMessages messages;
     cvlang::Program program{config, logs, messages};
-    program.CurrentApplication = u"WebMail";
-    cvlang::UpdateToken(program, u"default.net", u"French", u"[CV_TXT-INBOX]", u"new");
+    cvlang::UpdateToken(program, {u"WebMail", u"default.net", u"French"}, u"[CV_TXT-INBOX]",
+                        u"new");
 }

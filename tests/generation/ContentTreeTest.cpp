@@ -23,7 +23,7 @@ class ContentTree : public testing::Test {
                 Utf16Bytes(u"[CV_TXT-A]\tvaleur\r\n[CV_TXT-B]\tl'\u00E9t\u00E9\r\n"));
     }
 
-    bool Apply(std::u16string_view language = u"French") {
+    bool Apply(const std::u16string& language = u"French") {
         return ApplyTranslation(fake.program, u"WebMail", u"default.net", language);
     }
 
@@ -108,7 +108,7 @@ TEST_F(ContentTree, TheQuestionIsAskedOnlyOfAUserWhoHasPagesToLose) {
     const auto prepare = [this](int noPrompt, MessageAnswer answer) {
         fake.messages.answer = answer;
         const bool goesOn =
-            PrepareLanguageFolder(fake.program, u"WebMail", u"default.net", u"French", noPrompt);
+            PrepareLanguageFolder(fake.program, {u"WebMail", u"default.net", u"French"}, noPrompt);
         EXPECT_EQ(FileBytes(fr / "a.asp"), goesOn ? "fresh" : "own");
         return goesOn;
     };
@@ -166,8 +166,8 @@ TEST_F(ContentTree, LinksAreFollowedInTheReferenceFolderUnlessTheyLeadBackAndNev
 }
 
 TEST_F(ContentTree, OnlyAScriptFileIsScriptThroughoutAndAMissingPageIsLogged) {
-    PageTranslator pages(fake.program, u"French", u"default.net", u"WebMail", {u"", u"[CV_TXT-A]"},
-                         {u"", u"'"});
+    PageTranslator pages(fake.program, {u"WebMail", u"default.net", u"French"},
+                         {u"", u"[CV_TXT-A]"}, {u"", u"'"});
     for (const auto& [name, aware, result] :
          {std::tuple{"X.Js", true, "\\'"}, {"x.js", false, "'"}, {"xjs", true, "'"}}) {
         PutFile(name, "[CV_TXT-A]");

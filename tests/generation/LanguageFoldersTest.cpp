@@ -25,7 +25,7 @@ TEST(LanguageFolders, EveryApplicationAndBaseHasItsPlace) {
     const Configuration config(registry);
     for (const auto& [sourceRoot, application, base, root] : cases) {
         registry.strings[u"Source Root"] = sourceRoot;
-        EXPECT_EQ(Path(GetLanguageRoot(config, application, base)), root);
+        EXPECT_EQ(Path(GetLanguageRoot(config, {application, base})), root);
     }
 }
 

@@ -10,7 +10,7 @@
 
 #include "generation/PageScan.h"
 #include "platform/Ansi.h"
-#include "platform/Utf8.h"
+#include "text/Unicode.h"
 #include "translation/TokenMapFile.h"
 
 namespace cvlang::plain {

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "MailFixture.h"
-#include "config/TextHelpers.h"
 #include "mail/MailError.h"
 #include "platform/Ansi.h"
+#include "text/Strings.h"
 
 namespace cvlang {
 namespace {

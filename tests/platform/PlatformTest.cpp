@@ -6,8 +6,8 @@
 #include "platform/FileSystem.h"
 #include "platform/FolderCopy.h"
 #include "platform/Paths.h"
-#include "platform/Utf8.h"
 #include "support/Files.h"
+#include "text/Unicode.h"
 
 namespace cvlang {
 namespace {

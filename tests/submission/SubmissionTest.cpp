@@ -8,7 +8,7 @@ namespace cvlang {
 namespace {
 
 TEST(Submission, TheMessageTellsWhatIsAttached) {
-    EXPECT_EQ(SubmissionBody(u"WebMail", u"default.net", u"French"),
+    EXPECT_EQ(SubmissionBody({u"WebMail", u"default.net", u"French"}),
               u"Dear Support Team,\r\n\r\nI have attached the language token files for the "
               u"following: \r\n\r\nApplication: \tWebMail\r\nBase: \t\tdefault.net\r\n"
               u"Language: \t\tFrench\r\n\r\nRegards,\r\n");
@@ -17,7 +17,7 @@ TEST(Submission, TheMessageTellsWhatIsAttached) {
 TEST(Submission, AllMapFilesOfTheBaseAreFoundByTheirExactName) {
     const TemporaryFolder folder;
     const auto reference = folder / "A-b.net-tokens.map";
-    EXPECT_TRUE(MapFilesOfBase(reference, u"A", u"b.net").empty());
+    EXPECT_TRUE(MapFilesOfBase(reference, {u"A", u"b.net"}).empty());
     for (const char* name :
          {"A-b.net-tokens-fr.map", "A-b.net-tokens.map", "A-b.net-TOKENS-de.map",
           "a-b.net-tokens-it.map", "A-b.net-tokens-ja.MAP", "A-b.net-tokens-es.map.bak",
@@ -25,7 +25,7 @@ TEST(Submission, AllMapFilesOfTheBaseAreFoundByTheirExactName) {
         PutFile(folder / name, "");
     std::filesystem::create_directory(folder / "A-b.net-tokens-folder.map");
     const std::vector<std::filesystem::path> expected{folder / "A-b.net-tokens-fr.map", reference};
-    EXPECT_EQ(MapFilesOfBase(reference, u"A", u"b.net"), expected);
+    EXPECT_EQ(MapFilesOfBase(reference, {u"A", u"b.net"}), expected);
 }
 
 TEST(Submission, TheFirstFaultyAddressIsTold) {

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "config/Program.h"
 #include "platform/Paths.h"
+#include "run/Program.h"
 #include "support/Files.h"
 
 namespace cvlang {

@@ -1,12 +1,12 @@
 // The files of the translation store, read and written as they are.
 #include <gtest/gtest.h>
 
-#include "config/TextHelpers.h"
 #include "platform/Ansi.h"
 #include "support/FakeProgram.h"
-#include "translation/KeyedLines.h"
-#include "translation/LanguageTable.h"
-#include "translation/Lines.h"
+#include "text/Lines.h"
+#include "text/Strings.h"
+#include "translation/LanguageList.h"
+#include "translation/StoreFile.h"
 #include "translation/TokenMapFile.h"
 
 namespace cvlang {
@@ -19,7 +19,7 @@ const std::string kNew = Utf16Bytes(u"k\tnew\r\n");
 const std::string kNoFile = "(no file)";
 
 void Rewrite(const FakeProgram& fake, const fs::path& folder = ".") {
-    RewriteKeyedLine(folder / "t.map", folder / "_t.map", u"k", u"new", fake.logs);
+    RewriteKeyedLine({folder / "t.map", folder / "_t.map"}, u"k", u"new", fake.logs);
 }
 
 TEST(KeyedLines, EveryLineOfTheKeyGetsTheValueAndAllOthersStay) {
@@ -58,7 +58,7 @@ TEST(KeyedLines, EveryFailureLeavesItsState) {
     Rewrite(fake);  // a temporary file that cannot be created costs the file
     EXPECT_EQ(FileBytes("t.map"), kNoFile);
     PutFile("t.map", kOld);
-    RewriteKeyedLine("t.map", "none/_t.map", u"k", u"new", fake.logs);
+    RewriteKeyedLine({"t.map", "none/_t.map"}, u"k", u"new", fake.logs);
     EXPECT_EQ(FileBytes("t.map"), kNoFile);
 
     EXPECT_EQ(fake.ErrorLog(), kNoFile);
@@ -66,10 +66,11 @@ TEST(KeyedLines, EveryFailureLeavesItsState) {
     EXPECT_TRUE(fake.ErrorLog().ends_with("\tUnable to update token\r\n"));
 }
 
+const Selection kSelection{u"WebMail", u"default", u"French"};
 constexpr char kList[] = "WebMail-default-lang.txt";
 
 std::u16string Abbreviation(const FakeProgram& fake, std::u16string_view language) {
-    return GetLanguageAbbreviation(fake.config, u"WebMail", language, u"default");
+    return GetLanguageAbbreviation(fake.config, u"WebMail", std::u16string(language), u"default");
 }
 
 TEST(LanguageTable, TheBuiltInAbbreviationsServeUntilAListFileIsCreated) {
@@ -87,37 +88,38 @@ TEST(LanguageTable, TheBuiltInAbbreviationsServeUntilAListFileIsCreated) {
         {u"Swedish", u""},     {u"French ", u""}};
     for (const auto& [name, abbreviation] : cases)
         EXPECT_EQ(Abbreviation(fake, name), abbreviation);
-    EXPECT_EQ(LoadLanguageList(fake.config, u"WebMail", u"default").back(), u"Swedish");
+    EXPECT_EQ(LoadLanguageList(fake.config, kSelection).back(), u"Swedish");
     EXPECT_EQ(FileBytes(kList), Utf16ToAnsi(kInBothTables) + "Swedish\tsw\r\n");
     EXPECT_EQ(Abbreviation(fake, u"swedish"), u"sw");
     EXPECT_EQ(Abbreviation(fake, u"Turkish"), u"");
     PutFile(kList, "\xC9t\xE9\tfr-CA\n\n\xC9T\xC9\tother");
     EXPECT_EQ(Abbreviation(fake, u"\u00E9t\u00E9"), u"fr-CA");
     fake.registry.strings[u"Application Directory"] = TextFromPath(fake.folder / "none");
-    EXPECT_TRUE(LoadLanguageList(fake.config, u"WebMail", u"default").empty());
+    EXPECT_TRUE(LoadLanguageList(fake.config, kSelection).empty());
 }
 
 constexpr char kFrench[] = "WebMail-default-tokens-fr.map";
 
 TEST(TokenMapFile, LinesAreLoadedAtTheirNumbersAndTheFirstWithExactlyTheTokenIsFound) {
     using Texts = TextArray;
-    const FakeProgram fake;
+    FakeProgram fake;
+    fake.program.CurrentApplication = u"WebMail";
     PutFile(kFrench, Utf16Bytes(u"[CV_A] \tblank\r\n\r\n[cv_a]\tcase\r\n[CV_A]\t1\t2\r\n[CV_A]") +
                          "b");  // an odd byte at the end
     for (const std::size_t held : {std::size_t{1}, std::size_t{10}}) {
         Texts tokens(held, u"held");
         Texts values(held, u"held");
         Utf16File file;
-        LoadTokens(fake.config, u"WebMail", u"default", u"German", file, tokens, values);
+        LoadLanguageTokensIntoArrays(fake.config, {u"WebMail", u"default", u"German"}, file, tokens,
+                                     values);
         EXPECT_EQ(tokens, Texts(held, u"held"));  // as no file is there
-        LoadTokens(fake.config, u"WebMail", u"default", u"French", file, tokens, values);
+        LoadLanguageTokensIntoArrays(fake.config, kSelection, file, tokens, values);
         EXPECT_EQ(tokens, (Texts{u"held", u"[CV_A] ", u"", u"[cv_a]", u"[CV_A]", u"[CV_A]"}));
         EXPECT_EQ(values, (Texts{u"held", u"blank", u"", u"case", u"1", u""}));
     }
     for (const auto& [language, value] : {std::pair{u"French", u"1"}, {u"German", u""}}) {
-        EXPECT_EQ(
-            GetTokenValue(fake.config, u"WebMail", u"[CV_A]: Hello [x]: y", u"default", language),
-            value);
+        EXPECT_EQ(GetTokenValue(fake.program, u"[CV_A]: Hello [x]: y", u"default", language),
+                  value);
     }
 }
 

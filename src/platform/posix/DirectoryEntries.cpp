@@ -1,7 +1,7 @@
 #include "platform/posix/DirectoryEntries.h"
 
 #include "platform/LetterCase.h"
-#include "platform/Utf8.h"
+#include "text/Unicode.h"
 
 namespace cvlang {
 

@@ -8,6 +8,8 @@
 #include <memory>
 #include <string_view>
 
+#include "text/AsciiCase.h"
+
 namespace cvlang {
 namespace {
 
@@ -37,15 +39,15 @@ std::vector<fs::path>* ListFor(const dirent& entry, DIR* folder, FolderListing& 
 }
 
 bool PrecedesInDirectoryWindow(const fs::path& a, const fs::path& b) {
-    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
     const std::string& left = a.native();
     const std::string& right = b.native();
     const auto [inLeft, inRight] =
         std::mismatch(left.begin(), left.end(), right.begin(), right.end(),
-                      [lower](char x, char y) { return lower(x) == lower(y); });
+                      [](char x, char y) { return LowerAscii(x) == LowerAscii(y); });
     if (inLeft == left.end() || inRight == right.end())
         return inLeft == left.end() && (inRight != right.end() || left < right);
-    return static_cast<unsigned char>(lower(*inLeft)) < static_cast<unsigned char>(lower(*inRight));
+    return static_cast<unsigned char>(LowerAscii(*inLeft)) <
+           static_cast<unsigned char>(LowerAscii(*inRight));
 }
 
 }  // namespace

@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-#include "platform/Utf8.h"
 #include "platform/posix/DirectoryEntries.h"
+#include "text/Unicode.h"
 
 namespace cvlang {
 namespace {

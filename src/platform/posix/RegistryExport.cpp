@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "platform/LetterCase.h"
-#include "platform/Utf8.h"
+#include "text/Unicode.h"
 
 namespace cvlang {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <dlfcn.h>
 
-#include "platform/Utf8.h"
+#include "text/Unicode.h"
 
 namespace cvlang {
 

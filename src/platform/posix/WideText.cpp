@@ -1,6 +1,6 @@
 #include "platform/WideText.h"
 
-#include "platform/Surrogates.h"
+#include "text/Unicode.h"
 
 namespace cvlang {
 

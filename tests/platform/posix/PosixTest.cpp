@@ -5,9 +5,9 @@
 #include "platform/FileCopy.h"
 #include "platform/Paths.h"
 #include "platform/Process.h"
-#include "platform/Utf8.h"
 #include "platform/posix/RegistryExport.h"
 #include "support/Files.h"
+#include "text/Unicode.h"
 
 namespace cvlang {
 namespace {

@@ -8,9 +8,9 @@ namespace cvlang {
 
 /// Where long work is announced. This one shows nothing, as the command line wants it; windows
 /// bring their own.
-class WaitDisplay {
+class Progress {
   public:
-    virtual ~WaitDisplay() = default;
+    virtual ~Progress() = default;
 
     virtual void Begin() {}
     virtual void End() {}
@@ -20,19 +20,19 @@ class WaitDisplay {
     virtual void Step() {}
 
     /// The one that shows nothing.
-    static WaitDisplay& None();
+    static Progress& None();
 };
 
 /// Announces long work from its construction to its destruction.
-class WaitScope {
+class ProgressScope {
   public:
-    explicit WaitScope(WaitDisplay& display) : display_(display) { display_.Begin(); }
-    ~WaitScope() { display_.End(); }
-    WaitScope(const WaitScope&) = delete;
-    WaitScope& operator=(const WaitScope&) = delete;
+    explicit ProgressScope(Progress& display) : display_(display) { display_.Begin(); }
+    ~ProgressScope() { display_.End(); }
+    ProgressScope(const ProgressScope&) = delete;
+    ProgressScope& operator=(const ProgressScope&) = delete;
 
   private:
-    WaitDisplay& display_;
+    Progress& display_;
 };
 
 }  // namespace cvlang

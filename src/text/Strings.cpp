@@ -1,33 +1,8 @@
-#include "config/TextHelpers.h"
+#include "text/Strings.h"
 
 #include <algorithm>
-#include <cstdint>
 
 namespace cvlang {
-namespace {
-
-std::u16string Hexadecimal(std::uint32_t number) {
-    std::u16string digits;
-    do {
-        digits.insert(digits.begin(), u"0123456789ABCDEF"[number % 16]);
-        number /= 16;
-    } while (number != 0);
-    return digits;
-}
-
-std::u16string PaddedHexadecimal(std::uint32_t number, int width) {
-    const std::u16string digits = Hexadecimal(number);
-    return ZeroPad(width, static_cast<int>(digits.size())) + digits;
-}
-
-/// The digits as a number format of two places leaves them: it pads what reads as a decimal number,
-/// and "A" does not.
-std::u16string FormattedByte(std::uint8_t byte) {
-    return byte < 10 ? PaddedHexadecimal(byte, 2) : Hexadecimal(byte);
-}
-
-}  // namespace
-
 std::u16string_view SplitField(std::u16string_view text, std::u16string_view delimiter, int n) {
     if (n < 1)
         return {};
@@ -75,21 +50,6 @@ int CountFields(std::u16string_view text, std::u16string_view delimiter) {
 
 std::u16string ZeroPad(int width, int length) {
     return std::u16string(static_cast<std::size_t>(width > length ? width - length : 0), u'0');
-}
-
-std::u16string CreateGuidString(const GuidSource& newGuid) {
-    const auto guid = newGuid();
-    if (!guid)
-        return u"00000000";
-    std::u16string text = PaddedHexadecimal(guid->first, 8) + PaddedHexadecimal(guid->second, 4) +
-                          PaddedHexadecimal(guid->third, 4);
-    for (const std::uint8_t byte : guid->last)
-        text += FormattedByte(byte);
-    return text;
-}
-
-std::u16string GetLocalComputerName() {
-    return ComputerName();
 }
 
 }  // namespace cvlang

@@ -1,10 +1,18 @@
-// Adding tokens to an application base and taking them out of it.
+// Changes of the token map files: saving a translation, adding and removing tokens.
 #pragma once
 
 #include <filesystem>
 #include <string_view>
 
+#include "run/Program.h"
+#include "translation/Selection.h"
+
 namespace cvlang {
+
+/// Sets the value of a token, or of a list entry, in the selected language's map file. A failure
+/// leaves no more than a line in the log.
+void UpdateToken(const Program& program, const Selection& selection, std::u16string_view token,
+                 std::u16string_view value);
 
 /// Appends a token to a reference map file, which is created when it is missing. Name and value are
 /// taken as they are; a token that exists already gets a second line.

@@ -5,11 +5,10 @@
 #include <filesystem>
 #include <string_view>
 
+#include "config/Logs.h"
 #include "platform/FileSystem.h"
 
 namespace cvlang {
-
-inline constexpr std::u16string_view kStoreLineEnd = u"\r\n";
 
 /// A file's text as it was when it was read.
 class Utf16File {
@@ -35,5 +34,18 @@ bool WriteUtf16File(const std::filesystem::path& path, std::u16string_view text)
 
 /// Writes the text at the end of an existing file. What cannot be written is lost.
 void AppendToUtf16File(const std::filesystem::path& path, std::u16string_view text);
+
+/// A file of the store and the file that it is rewritten through.
+struct RewrittenFile {
+    std::filesystem::path file;
+    std::filesystem::path copy;
+};
+
+/// In a file of lines "key TAB value", gives every line with the key the new value, or adds the
+/// line at the end. The copy is written with the change, the file deleted, and the copy renamed. A
+/// missing file is created with that one line; one that cannot be opened leaves "Unable to update
+/// token" in the log.
+void RewriteKeyedLine(const RewrittenFile& rewritten, std::u16string_view key,
+                      std::u16string_view value, const Logs& logs);
 
 }  // namespace cvlang

@@ -1,4 +1,4 @@
-#include "config/UserMessages.h"
+#include "run/UserMessages.h"
 
 #include "platform/Process.h"
 

@@ -1,26 +1,19 @@
-#include "mail/IgnoringCase.h"
+#include "text/AsciiCase.h"
 
 #include <algorithm>
 
 namespace cvlang {
-namespace {
-
-char ToLower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-}  // namespace
 
 std::string ToLowerCase(std::string_view text) {
     std::string lower(text.size(), '\0');
-    std::transform(text.begin(), text.end(), lower.begin(), ToLower);
+    std::transform(text.begin(), text.end(), lower.begin(), LowerAscii<char>);
     return lower;
 }
 
 std::size_t FindIgnoringCase(std::string_view text, std::string_view wanted, std::size_t from) {
     const auto found =
         std::search(text.begin() + static_cast<std::ptrdiff_t>(from), text.end(), wanted.begin(),
-                    wanted.end(), [](char a, char b) { return ToLower(a) == b; });
+                    wanted.end(), [](char a, char b) { return LowerAscii(a) == b; });
     return found == text.end() ? std::string_view::npos
                                : static_cast<std::size_t>(found - text.begin());
 }

@@ -1,4 +1,4 @@
-#include "app/Window.h"
+#include "app/WindowMode.h"
 
 #include <wx/app.h>
 #include <wx/init.h>

@@ -7,8 +7,8 @@
 
 #include "config/Configuration.h"
 #include "config/Logs.h"
-#include "config/UserMessages.h"
-#include "config/Waiting.h"
+#include "run/Progress.h"
+#include "run/UserMessages.h"
 
 namespace cvlang {
 
@@ -24,7 +24,7 @@ struct Program {
     /// Set when the program works without a window: no question is asked.
     bool unattended = false;
     /// What the user sees of long work.
-    WaitDisplay* waiting = &WaitDisplay::None();
+    Progress* progress = &Progress::None();
 };
 
 }  // namespace cvlang

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "app/CommandLine.h"
-#include "config/UserMessages.h"
+#include "run/UserMessages.h"
 
 namespace cvlang {
 

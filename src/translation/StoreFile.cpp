@@ -1,15 +1,24 @@
-#include "translation/KeyedLines.h"
+#include "translation/StoreFile.h"
 
+#include <bit>
 #include <string>
 
-#include "config/TextHelpers.h"
-#include "platform/FileSystem.h"
 #include "platform/Paths.h"
-#include "translation/Lines.h"
-#include "translation/Utf16File.h"
+#include "text/Lines.h"
+#include "text/Strings.h"
 
 namespace cvlang {
+
+static_assert(std::endian::native == std::endian::little,
+              "files are read and written as they lie in memory");
+
 namespace {
+
+constexpr char16_t kByteOrderMark = 0xFEFF;
+
+std::string_view BytesOf(std::u16string_view text) {
+    return {reinterpret_cast<const char*>(text.data()), text.size() * 2};
+}
 
 std::u16string KeyedLine(std::u16string_view key, std::u16string_view value) {
     std::u16string line(key);
@@ -34,32 +43,49 @@ std::u16string WithNewValue(std::u16string_view text, std::u16string_view key,
         } else {
             rewritten += line;
         }
-        rewritten += kStoreLineEnd;
+        rewritten += kCrLf16;
     }
     if (!found)
-        rewritten += KeyedLine(key, value) + std::u16string(kStoreLineEnd);
+        rewritten += KeyedLine(key, value) + std::u16string(kCrLf16);
     return rewritten;
 }
 
 }  // namespace
 
-void RewriteKeyedLine(const std::filesystem::path& target, const std::filesystem::path& temporary,
-                      std::u16string_view key, std::u16string_view value, const Logs& logs) {
-    const std::filesystem::path file = FindExisting(target);
+std::u16string_view Utf16File::Text() const {
+    const std::string_view bytes = content_.Bytes();
+    std::u16string_view text(reinterpret_cast<const char16_t*>(bytes.data()), bytes.size() / 2);
+    if (!text.empty() && text.front() == kByteOrderMark)
+        text.remove_prefix(1);
+    return text;
+}
+
+bool WriteUtf16File(const std::filesystem::path& path, std::u16string_view text) {
+    std::u16string marked(1, kByteOrderMark);
+    marked += text;
+    return WriteFile(path, BytesOf(marked));
+}
+
+void AppendToUtf16File(const std::filesystem::path& path, std::u16string_view text) {
+    [[maybe_unused]] const std::error_code ignored = AppendToFile(path, BytesOf(text));
+}
+
+void RewriteKeyedLine(const RewrittenFile& rewritten, std::u16string_view key,
+                      std::u16string_view value, const Logs& logs) {
+    const std::filesystem::path file = FindExisting(rewritten.file);
     const Utf16File original(file);
     switch (original.Status()) {
         case FileStatus::Okay: {
-            const std::filesystem::path copy = FindExisting(temporary);
+            const std::filesystem::path copy = FindExisting(rewritten.copy);
             RemoveFile(copy);
             WriteUtf16File(copy, WithNewValue(original.Text(), key, value));
-            // Deleted before the copy is known to exist, and on purpose: readers never see two
-            // files, and every failure leaves the state that the mail server's own tools expect.
+            // Deliberate: the file is deleted before the copy is known to exist.
             RemoveFile(file);
             RenameFile(copy, file);
             break;
         }
         case FileStatus::NotFound:
-            WriteUtf16File(file, KeyedLine(key, value) + std::u16string(kStoreLineEnd));
+            WriteUtf16File(file, KeyedLine(key, value) + std::u16string(kCrLf16));
             break;
         case FileStatus::OtherError: {
             // The same words for every file, although not every line is a token's.

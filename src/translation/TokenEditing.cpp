@@ -1,16 +1,16 @@
-#include "translation/TokenLines.h"
+#include "translation/TokenEditing.h"
 
 #include <string>
 
-#include "config/TextHelpers.h"
 #include "platform/FileSystem.h"
 #include "platform/FolderListing.h"
 #include "platform/LetterCase.h"
 #include "platform/Paths.h"
-#include "translation/Lines.h"
-#include "translation/MapFilePaths.h"
+#include "text/Lines.h"
+#include "text/Strings.h"
+#include "translation/LanguageList.h"
+#include "translation/StorePaths.h"
 #include "translation/TokenMapFile.h"
-#include "translation/Utf16File.h"
 
 namespace cvlang {
 namespace {
@@ -42,14 +42,12 @@ void RemoveLines(const fs::path& mapFile, std::u16string_view token, TokenOfLine
     Lines<char16_t> lines(original.Text());
     for (std::u16string_view line; lines.Next(line);) {
         if (tokenOf(line) != token || tokenOf(line).empty())
-            kept.append(line).append(kStoreLineEnd);
+            kept.append(line).append(kCrLf16);
     }
-    fs::path copy = file;
-    copy += "D";
-    copy = FindExisting(copy);
+    const fs::path copy = FindExisting(RemovalCopy(file));
     if (!WriteUtf16File(copy, kept))
         return;
-    // Deleted before the copy takes its name, on purpose: readers never see two files.
+    // Deliberate: the file is deleted before the copy takes its name.
     RemoveFile(file);
     RenameFile(copy, file);
 }
@@ -57,10 +55,23 @@ void RemoveLines(const fs::path& mapFile, std::u16string_view token, TokenOfLine
 /// "WebMail-default.net-tokens-", of a reference map file's name.
 std::u16string LanguageFilePrefix(const fs::path& referenceMapFile) {
     const std::u16string name = TextFromPath(referenceMapFile.filename());
-    return MapFilePrefix(SplitField(name, u"-", 1), SplitField(name, u"-", 2)) + u"tokens-";
+    return MapFilePrefix({.application = std::u16string(SplitField(name, u"-", 1)),
+                          .base = std::u16string(SplitField(name, u"-", 2))}) +
+           u"-";
 }
 
 }  // namespace
+
+void UpdateToken(const Program& program, const Selection& selection, std::u16string_view token,
+                 std::u16string_view value) {
+    const Configuration& config = program.config;
+    const std::u16string directory = config.GetProgramDirectory();
+    const std::u16string abbreviation = LanguageAbbreviation(config, selection);
+    const std::int32_t version = config.GetAuthoringVersion();
+    RewriteKeyedLine({LanguageMapFile(directory, selection, abbreviation, version),
+                      TemporaryMapFile(directory, selection, abbreviation, version)},
+                     NormaliseToken(token), value, program.logs);
+}
 
 void AddTokenLine(const fs::path& referenceMapFile, std::u16string_view name,
                   std::u16string_view value) {
@@ -68,10 +79,9 @@ void AddTokenLine(const fs::path& referenceMapFile, std::u16string_view name,
     const Utf16File existing(file);
     if (existing.Status() == FileStatus::OtherError)
         return;
-    const bool inMiddleOfLine =
-        !existing.Text().empty() && !existing.Text().ends_with(kStoreLineEnd);
-    std::u16string line(inMiddleOfLine ? kStoreLineEnd : u"");
-    line.append(u"\t\t\t[CV_TXT-").append(name).append(u"]\t").append(value).append(kStoreLineEnd);
+    const bool inMiddleOfLine = !existing.Text().empty() && !existing.Text().ends_with(kCrLf16);
+    std::u16string line(inMiddleOfLine ? kCrLf16 : u"");
+    line.append(u"\t\t\t[CV_TXT-").append(name).append(u"]\t").append(value).append(kCrLf16);
     if (existing.Status() == FileStatus::Okay && !existing.EndsWithinCharacter()) {
         AppendToUtf16File(file, line);
     } else {

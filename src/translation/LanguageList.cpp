@@ -1,0 +1,168 @@
+#include "translation/LanguageList.h"
+
+#include "platform/Ansi.h"
+#include "platform/FileSystem.h"
+#include "platform/LetterCase.h"
+#include "platform/Paths.h"
+#include "text/Lines.h"
+#include "text/Strings.h"
+#include "translation/StorePaths.h"
+
+namespace cvlang {
+namespace {
+
+struct Language {
+    std::u16string_view name;
+    std::u16string_view abbreviation;
+};
+
+// Deliberate: the two tables differ. Swedish is in the first alone; Turkish, Dutch and the
+// misspelled Portuguese are in the second alone.
+constexpr Language kDefaultLanguages[] = {
+    {u"Chinese", u"zh"},
+    {u"Danish", u"dk"},
+    {u"English", u"en"},
+    {u"French", u"fr"},
+    {u"German", u"de"},
+    {u"Italian", u"it"},
+    {u"Japanese", u"ja"},
+    {u"Korean", u"ko"},
+    {u"Polish", u"pl"},
+    {u"Portuguese", u"pt"},
+    {u"Brazilian Portuguese", u"pt-BR"},
+    {u"Spanish", u"es"},
+    {u"Swedish", u"sw"},
+};
+
+constexpr Language kBuiltInAbbreviations[] = {
+    {u"CHINESE", u"zh"},
+    {u"ENGLISH", u"en"},
+    {u"FRENCH", u"fr"},
+    {u"GERMAN", u"de"},
+    {u"ITALIAN", u"it"},
+    {u"JAPANESE", u"ja"},
+    {u"KOREAN", u"ko"},
+    {u"PORTUGUESE", u"pt"},
+    {u"PORTUGESE", u"pt"},
+    {u"BRAZILIAN PORTUGUESE", u"pt-BR"},
+    {u"BRAZILIAN PORTUGESE", u"pt-BR"},
+    {u"POLISH", u"pl"},
+    {u"SPANISH", u"es"},
+    {u"DANISH", u"dk"},
+    {u"TURKISH", u"tr"},
+    {u"DUTCH", u"nl"},
+};
+
+std::u16string BuiltInAbbreviation(std::u16string_view upperName) {
+    for (const Language& language : kBuiltInAbbreviations) {
+        if (language.name == upperName)
+            return std::u16string(language.abbreviation);
+    }
+    return {};
+}
+
+std::u16string AbbreviationInList(std::u16string_view list, std::u16string_view upperName) {
+    Lines<char16_t> lines(list);
+    for (std::u16string_view line; lines.Next(line);) {
+        if (ToUpper(SplitField(line, kTab, 1)) == upperName)
+            return std::u16string(SplitField(line, kTab, 2));
+    }
+    return {};
+}
+
+/// The text of a language list file; false when it cannot be opened.
+bool ReadLanguageList(const std::filesystem::path& file, std::u16string& list) {
+    FileContent content;
+    if (ReadFile(file, content) != FileStatus::Okay)
+        return false;
+    list = AnsiToUtf16(content.Bytes());
+    return true;
+}
+
+bool CreateLanguageList(const std::filesystem::path& file) {
+    std::u16string list;
+    for (const Language& language : kDefaultLanguages) {
+        list += language.name;
+        list += kTab;
+        list += language.abbreviation;
+        list += kCrLf16;
+    }
+    return WriteFile(FindExisting(file), Utf16ToAnsi(list));
+}
+
+void Refuse(Program& program, std::u16string text) {
+    program.messages.Show({std::move(text), u"Error", MessageButtons::Ok, MessageIcon::Critical});
+}
+
+bool IsSame(std::u16string_view a, std::u16string_view b) {
+    return ToUpper(a) == ToUpper(b);
+}
+
+/// The reason to refuse a new language; empty when its name and abbreviation are new.
+std::u16string_view ValidateNewLanguage(std::u16string_view list, std::u16string_view name,
+                                        std::u16string_view abbreviation) {
+    Lines<char16_t> lines(list);
+    for (std::u16string_view line; lines.Next(line);) {
+        if (IsSame(SplitField(line, kTab, 1), name))
+            return u"That language name already exists and cannot be added.";
+        if (IsSame(SplitField(line, kTab, 2), abbreviation))
+            return u"That language abbreviation already exists and cannot be added.";
+    }
+    return {};
+}
+
+/// The list's lines, byte for byte, and the new one.
+std::string WithLanguage(std::string_view list, std::u16string_view name,
+                         std::u16string_view abbreviation) {
+    std::string longer;
+    Lines<char> lines(list);
+    for (std::string_view line; lines.Next(line);)
+        longer.append(line).append(kCrLf);
+    longer += Utf16ToAnsi(name) + "\t" + Utf16ToAnsi(abbreviation);
+    longer += kCrLf;
+    return longer;
+}
+
+}  // namespace
+
+std::u16string LanguageAbbreviation(const Configuration& config, const Selection& selection) {
+    const std::u16string upperName = ToUpper(selection.language);
+    std::u16string list;
+    if (ReadLanguageList(LanguageListFile(config.GetApplicationDirectory(), selection), list))
+        return AbbreviationInList(list, upperName);
+    return BuiltInAbbreviation(upperName);
+}
+
+std::vector<std::u16string> LoadLanguageList(const Configuration& config,
+                                             const Selection& selection) {
+    const std::filesystem::path file = GetLanguageListFilePath(config, selection);
+    std::u16string list;
+    // A file that was just created is read once more; one that cannot be created leaves the list
+    // empty.
+    if (!ReadLanguageList(file, list) && CreateLanguageList(file))
+        ReadLanguageList(file, list);
+    std::vector<std::u16string> names;
+    Lines<char16_t> lines(list);
+    for (std::u16string_view line; lines.Next(line);)
+        names.emplace_back(SplitField(line, kTab, 1));
+    return names;
+}
+
+bool AddLanguageToBase(Program& program, const Selection& selection, std::u16string_view name,
+                       std::u16string_view abbreviation) {
+    const std::filesystem::path file = GetLanguageListFilePath(program.config, selection);
+    FileContent content;
+    if (ReadFile(file, content) != FileStatus::Okay) {
+        Refuse(program, u"Could not load language file " + TextFromPath(file));
+        return false;
+    }
+    const std::u16string_view reason =
+        ValidateNewLanguage(AnsiToUtf16(content.Bytes()), name, abbreviation);
+    if (!reason.empty()) {
+        Refuse(program, std::u16string(reason));
+        return false;
+    }
+    return WriteFile(FindExisting(file), WithLanguage(content.Bytes(), name, abbreviation));
+}
+
+}  // namespace cvlang
