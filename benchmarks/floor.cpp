@@ -7,10 +7,10 @@ namespace {
 
 using namespace yardstick;
 
-void rewritePages(const Folder& folder, Buffer& buffer) {
+void RewritePages(const Folder& folder, Buffer& buffer) {
     for (const auto& [name, inner] : folder.entries()) {
         if (inner) {
-            rewritePages(Folder(folder.get(), name.c_str()), buffer);
+            RewritePages(Folder(folder.get(), name.c_str()), buffer);
         } else if (isPage(name)) {
             const std::size_t size = readWhole(folder.get(), name.c_str(), buffer);
             if (::unlinkat(folder.get(), name.c_str(), 0) != 0) {
@@ -27,6 +27,6 @@ int main(int argumentCount, char** arguments) {
     return run(argumentCount, arguments,
                [](const char* reference, const char* language, Buffer& buffer) {
                    copyFolder(reference, language, buffer);
-                   rewritePages(Folder(AT_FDCWD, language), buffer);
+                   RewritePages(Folder(AT_FDCWD, language), buffer);
                });
 }
