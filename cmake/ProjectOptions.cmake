@@ -1,4 +1,4 @@
-# What every target of the project is compiled with: the language level, warnings as errors and, when asked for,
+# What every target of the project is compiled with: the language level, warnings and, when asked for,
 # the sanitizers. A target takes part by linking cvlang_options.
 add_library(cvlang_options INTERFACE)
 target_compile_features(cvlang_options INTERFACE cxx_std_20)
@@ -7,7 +7,7 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 target_compile_options(cvlang_options INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Werror)
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor)
 if(CVLANG_SANITIZE)
     target_compile_options(cvlang_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
