@@ -1,4 +1,4 @@
-#include "mail/AddressList.h"
+#include "mail/HeaderValues.h"
 
 #include "fuzz/Fuzz.h"
 #include "text/AsciiCase.h"

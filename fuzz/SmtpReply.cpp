@@ -1,12 +1,12 @@
 // The first line is the set of codes, "|" stands between the pieces in which the reply comes.
-#include "mail/SmtpReply.h"
+#include "mail/SmtpConnection.h"
 
 #include <sys/socket.h>
 
 #include <array>
 
 #include "fuzz/Fuzz.h"
-#include "mail/AddressList.h"
+#include "mail/HeaderValues.h"
 
 namespace cvlang {
 namespace {

@@ -8,13 +8,13 @@
 
 #include "mail/MailError.h"
 #include "platform/FileSystem.h"
+#include "text/Strings.h"
 
 namespace cvlang {
 namespace {
 
 constexpr std::string_view kAlphabet =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-constexpr std::string_view kLineBreak = "\r\n";
 constexpr std::size_t kLineLength = 76;
 constexpr std::size_t kBytesOfLine = kLineLength / 4 * 3;
 
@@ -99,11 +99,11 @@ std::string Base64::EncodeByteArr(std::string_view bytInput) {
 void Base64::AppendEncoded(std::string& text, std::string_view bytes) {
     text.reserve(text.size() + EncodedSize(bytes.size()));
     const bool cut = bytes.size() > kBytesOfLine;
-    std::array<char, kLineLength + kLineBreak.size()> line;
+    std::array<char, kLineLength + kCrLf.size()> line;
     while (!bytes.empty()) {
         char* end = EncodeLine(bytes.substr(0, kBytesOfLine), line.data());
         if (cut && end == line.data() + kLineLength)
-            end = std::copy(kLineBreak.begin(), kLineBreak.end(), end);
+            end = std::copy(kCrLf.begin(), kCrLf.end(), end);
         text.append(line.data(), end);
         bytes.remove_prefix(std::min(bytes.size(), kBytesOfLine));
     }
@@ -112,7 +112,7 @@ void Base64::AppendEncoded(std::string& text, std::string_view bytes) {
 std::size_t Base64::EncodedSize(std::size_t byteCount) {
     const std::size_t characters = (byteCount + 2) / 3 * 4;
     const std::size_t lineBreaks = characters > kLineLength ? characters / kLineLength : 0;
-    return characters + lineBreaks * kLineBreak.size();
+    return characters + lineBreaks * kCrLf.size();
 }
 
 std::string Base64::EncodeString(std::string_view text) {
@@ -128,7 +128,7 @@ std::string Base64::EncodeFile(const std::filesystem::path& file) {
 std::string Base64::DecodeToByteArr(std::string_view text) {
     Decoder decoder(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text.compare(i, kLineBreak.size(), kLineBreak) == 0)
+        if (text.compare(i, kCrLf.size(), kCrLf) == 0)
             ++i;
         else if (text[i] != '=')
             decoder.Add(text[i]);

@@ -1,11 +1,10 @@
 #include "mail/HtmlToText.h"
 
 #include "text/AsciiCase.h"
+#include "text/Strings.h"
 
 namespace cvlang {
 namespace {
-
-constexpr std::string_view kLineBreak = "\r\n";
 
 /// Up to the first ">" behind the start tag, which is the end of the end tag.
 std::string WithoutTitle(const std::string& text) {
@@ -44,21 +43,21 @@ std::string WithoutTags(std::string text) {
         if (end == text.npos)
             return text;
         const std::string tag = text.substr(start, end + 1 - start);
-        text = ReplaceIgnoringCase(text, tag, BreaksLine(tag) ? kLineBreak : "");
+        text = ReplaceIgnoringCase(text, tag, BreaksLine(tag) ? kCrLf : "");
     }
 }
 
 }  // namespace
 
 std::string HTMLToText(std::string_view html, LineBreaks lineBreaks) {
-    std::string text = ReplaceIgnoringCase(html, kLineBreak, "");
+    std::string text = ReplaceIgnoringCase(html, kCrLf, "");
     text = WithoutTitle(text);
     text = WithoutBlock(text, "<style", "</style>");
     text = WithoutBlock(text, "<script", "</script>");
-    text = ReplaceIgnoringCase(text, "<br>", kLineBreak);
+    text = ReplaceIgnoringCase(text, "<br>", kCrLf);
     text = ReplaceIgnoringCase(text, "&nbsp;", " ");
     text = WithoutTags(text);
-    return lineBreaks == LineBreaks::Kept ? text : ReplaceIgnoringCase(text, kLineBreak, "<BR>");
+    return lineBreaks == LineBreaks::Kept ? text : ReplaceIgnoringCase(text, kCrLf, "<BR>");
 }
 
 }  // namespace cvlang

@@ -2,13 +2,10 @@
 
 #include <utility>
 
-#include "mail/AddressList.h"
 #include "mail/Base64.h"
-#include "mail/MailDate.h"
+#include "mail/HeaderValues.h"
 #include "mail/MailError.h"
-#include "mail/MessageBody.h"
-#include "mail/MessageHeaders.h"
-#include "mail/MimeNames.h"
+#include "mail/MessageText.h"
 #include "mail/SmtpDialogue.h"
 #include "platform/Ansi.h"
 #include "platform/FolderListing.h"
@@ -34,12 +31,12 @@ std::string NameInPath(const std::string& file) {
 
 }  // namespace
 
-Message::Message(const Configuration& config, const Logs& logs, MailSurroundings surroundings)
-    : config_(config), logs_(logs), surroundings_(std::move(surroundings)) {}
+Message::Message(const Configuration& config, const Logs& logs, MailEnvironment environment)
+    : config_(config), logs_(logs), environment_(std::move(environment)) {}
 
 void Message::AddHeader(std::string_view sHeader) {
     if (!sHeader.empty())
-        extraHeaders_.append(sHeader).append(kMailLineEnd);
+        extraHeaders_.append(sHeader).append(kCrLf);
 }
 
 void Message::ClearHeaders() {
@@ -47,7 +44,7 @@ void Message::ClearHeaders() {
 }
 
 void Message::AddAttachment(const std::string& Filename, const std::string& name) {
-    if (Trimmed(Filename).empty()) {
+    if (TrimBlanks(Filename).empty()) {
         ErrorString = "You must specify a filename for the attachment.";
         throw MailError(MailErrorNumber::Incomplete, "AddAttachment", ErrorString);
     }
@@ -98,7 +95,7 @@ bool Message::Send() {
         throw MailError(MailErrorNumber::Incomplete, "SendMessage", "No To: address given");
     std::string text = ComposeText();
     const SocketsSession sockets;
-    SmtpDialogue dialogue(*this, GetHeloDomainName(), surroundings_,
+    SmtpDialogue dialogue(*this, GetHeloDomainName(), environment_,
                           [this](std::string_view line) { LogActivity(line); });
     return dialogue.Deliver(MergedAddresses({MailTo, MailCC, MailBCC}), std::move(text));
 }
@@ -106,11 +103,11 @@ bool Message::Send() {
 std::string Message::ComposeText() {
     const MimeForm form = FormOfHeaders();
     if (form != MimeForm::SinglePart && boundary_.empty())
-        boundary_ = NewMIMEBoundary(surroundings_.newGuid);
+        boundary_ = NewMIMEBoundary(environment_.newGuid);
     const BodyDetails body = DetailsOfBody();
     std::string text =
-        HeaderBlock(*this, {FormatMailDate(surroundings_.clock(), surroundings_.timeZone()),
-                            NewMessageFileName(surroundings_.newGuid) + "@" + GetHeloDomainName(),
+        HeaderBlock(*this, {FormatMailDate(environment_.clock(), environment_.timeZone()),
+                            NewMessageFileName(environment_.newGuid) + "@" + GetHeloDomainName(),
                             extraHeaders_, form, boundary_});
     text.reserve(text.size() + EstimatedBodySize(*this, body));
     AppendBody(text, *this, body);
@@ -124,7 +121,7 @@ BodyDetails Message::DetailsOfBody() const {
         body.nameParameter = "Name";  // meant, like the other spellings
     }
     if (!body.attachments.empty() && HasHtmlBody())
-        body.innerBoundary = NewMIMEBoundary(surroundings_.newGuid);
+        body.innerBoundary = NewMIMEBoundary(environment_.newGuid);
     return body;
 }
 

@@ -8,10 +8,8 @@
 
 #include "config/Configuration.h"
 #include "config/Logs.h"
-#include "mail/MailSurroundings.h"
-#include "mail/MessageBody.h"
 #include "mail/MessageFields.h"
-#include "mail/MessageHeaders.h"
+#include "mail/MessageText.h"
 
 // The Windows headers have a macro of this name, which would give the class another operation in
 // some files.
@@ -22,14 +20,14 @@ namespace cvlang {
 class Message : public MessageFields {
   public:
     /// The configuration and the logs must outlive the message.
-    Message(const Configuration& config, const Logs& logs, MailSurroundings surroundings = {});
+    Message(const Configuration& config, const Logs& logs, MailEnvironment environment = {});
 
     /// Adds a line to the header block; an empty one is passed over.
     void AddHeader(std::string_view sHeader);
     void ClearHeaders();
 
     /// Without a name the attachment is called as its file. Raises an error when no file is named.
-    void AddAttachment(const std::string& Filename, const std::string& name);
+    void AddAttachment(const std::string& Filename, const std::string& Attachmentname);
     /// Adds an attachment by its path, which may hold characters that the code page lacks.
     void AddFile(std::filesystem::path file, std::string name);
     void ClearAttachments();
@@ -55,7 +53,7 @@ class Message : public MessageFields {
 
     const Configuration& config_;
     const Logs& logs_;
-    MailSurroundings surroundings_;
+    MailEnvironment environment_;
     std::string extraHeaders_;
     std::vector<Attachment> attachments_;
     std::string boundary_;  // made once and kept, also for a message that is sent again

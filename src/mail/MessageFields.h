@@ -1,13 +1,17 @@
-// What the user of a message fills in. Texts are bytes of the ANSI code page.
+// What a message is sent from: the fields that its user fills in, and what lies outside the
+// program.
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
+#include "platform/SystemInformation.h"
+#include "platform/TimeZone.h"
+
 namespace cvlang {
 
-inline constexpr std::string_view kMailLineEnd = "\r\n";
 inline constexpr int kSmtpPort = 25;
 /// The content type that makes a message's body HTML with a plain alternative.
 inline constexpr std::string_view kHtmlContentType = "text/html;";
@@ -53,6 +57,18 @@ struct MessageFields {
 struct Attachment {
     std::filesystem::path file;
     std::string name;  // shown to the recipient
+};
+
+/// What sending mail touches outside the program; tests bring their own.
+struct MailEnvironment {
+    Clock clock = SystemClock;
+    GuidSource newGuid = NewGuid;
+    TimeZoneSource timeZone = SystemTimeZone;
+    /// Called once before the program stands still to connect, so that windows can repaint.
+    std::function<void()> processPendingEvents = [] {};
+    /// Called before each command, so that windows can show that the conversation goes on. Never
+    /// amid the wait for a reply, which must not miss the end of its minute.
+    std::function<void()> beforeCommand = [] {};
 };
 
 }  // namespace cvlang

@@ -5,50 +5,57 @@
 
 #include "mail/Base64.h"
 #include "mail/MailError.h"
-#include "mail/SmtpReply.h"
-#include "mail/SmtpReplyCodes.h"
+#include "mail/SmtpConnection.h"
+#include "text/Strings.h"
 
 namespace cvlang {
 namespace {
 
 constexpr int kAuthLogin = 1;
 
-/// 0 when the first send took nothing. A failure is left to the wait for the reply to find.
-std::ptrdiff_t SendAll(SocketHandle socket, std::string_view bytes) {
-    const std::ptrdiff_t first = SendBytes(socket, bytes);
-    for (std::ptrdiff_t sent = first; sent > 0; sent = SendBytes(socket, bytes)) {
-        bytes.remove_prefix(static_cast<std::size_t>(sent));
-        if (bytes.empty())
-            break;
-    }
-    return first;
+/// The reply codes that the commands wait for: those of success, then those of failure. A set's
+/// first code wins, wherever in the reply it stands, so the order matters.
+namespace replies {
+
+constexpr std::string_view kGreeting = "220,421";
+constexpr std::string_view kGreeted = "220";
+
+constexpr std::string_view kHelo = "250,500,501,504,421";
+
+constexpr std::string_view kAuth = "334,235,552,451,452,500,501,504,421";
+constexpr std::string_view kAuthRefused = "500,501,504,421";
+
+constexpr std::string_view kMail = "250,552,451,452,500,501,421";
+constexpr std::string_view kMailRefused = "552,451,452,500,501,421";
+
+constexpr std::string_view kRcpt = "250,251,550,551,552,553,450,451,452,500,501,503,421";
+constexpr std::string_view kRcptRefused = "550,551,552,553,450,451,452,500,501,503,421";
+
+constexpr std::string_view kData = "354,250,500,501,503,552,554,451,452";
+constexpr std::string_view kDataInvited = "354";
+
+constexpr std::string_view kEndOfMessage =
+    "250,451,554,500,501,503,421,500,501,503,552,554,451,452";
+constexpr std::string_view kDelivered = "250";
+
+/// Nothing is waited for.
+constexpr std::string_view kNone;
+
+/// Whether a code is among a list's. The empty code of a wait that ran out is in every list, which
+/// is meant: silence is a refusal wherever refusals are looked for, and an invitation after DATA.
+bool IsIn(std::string_view list, std::string_view code) {
+    return list.find(code) != std::string_view::npos;
 }
+
+}  // namespace replies
 
 }  // namespace
 
-std::string SMTPProcessClientCommand(SocketHandle socket, std::string_view command,
-                                     std::string_view replyCodeSet, const Clock& clock,
-                                     std::string& ErrorString) {
-    const LocalTime start = clock();
-    const bool tookNothing = !command.empty() && SendAll(socket, command) == 0;
-    if (replyCodeSet.empty())
-        return {};
-    if (tookNothing)
-        return std::string(replies::kGeneralError);
-    try {
-        return WaitForReply(socket, replyCodeSet, clock, start);
-    } catch (const ReceiveError& error) {
-        ErrorString = "Windows Sockets error processing " + std::string(command) +
-                      " command: " + std::to_string(error.SocketNumber());
-        throw;
-    }
-}
-
 SmtpDialogue::SmtpDialogue(MessageFields& message, std::string heloName,
-                           const MailSurroundings& surroundings, Log log)
+                           const MailEnvironment& environment, Log log)
     : message_(message),
       heloName_(std::move(heloName)),
-      surroundings_(surroundings),
+      environment_(environment),
       log_(std::move(log)),
       server_(message.Server.empty() ? "localhost" : message.Server) {}
 
@@ -69,13 +76,13 @@ bool SmtpDialogue::SMTPConnect() {
     if (message_.ServerPort == 0)
         message_.ServerPort = kSmtpPort;
     connection_.Open(
-        ConnectToHost(server_, message_.ServerPort, surroundings_.processPendingEvents));
+        ConnectToHost(server_, message_.ServerPort, environment_.processPendingEvents));
     if (!connection_.IsOpen())
         throw MailError(MailErrorNumber::Connect, "SMTPConnect",
                         "Failed to connect to mail server: Windows Sockets error " +
                             std::to_string(LastSocketError()));
     const std::string code = SMTPProcessClientCommand(connection_.Socket(), "", replies::kGreeting,
-                                                      surroundings_.clock, message_.ErrorString);
+                                                      environment_.clock, message_.ErrorString);
     if (code == replies::kGreeted)
         return true;
     message_.ErrorString = "SMTP Server is not contactable for domain: " + server_;
@@ -147,9 +154,9 @@ bool SmtpDialogue::Report(std::string_view code) {
 }
 
 std::string SmtpDialogue::Command(std::string line, std::string_view replyCodeSet) {
-    surroundings_.beforeCommand();
-    return SMTPProcessClientCommand(connection_.Socket(), line.append(kMailLineEnd), replyCodeSet,
-                                    surroundings_.clock, message_.ErrorString);
+    environment_.beforeCommand();
+    return SMTPProcessClientCommand(connection_.Socket(), line.append(kCrLf), replyCodeSet,
+                                    environment_.clock, message_.ErrorString);
 }
 
 std::string SmtpDialogue::Route() const {

@@ -6,26 +6,18 @@
 #include <string_view>
 #include <vector>
 
-#include "mail/MailSurroundings.h"
 #include "mail/MessageFields.h"
-#include "mail/Sockets.h"
+#include "mail/SmtpConnection.h"
 
 namespace cvlang {
-
-/// Sends a command's bytes, an empty one not at all, and returns the code of the set that the
-/// server replies with; see SmtpReplyCodes.h for what else it can be. An empty set is not waited
-/// for. When receiving fails, ErrorString says in which command, and the error is raised.
-std::string SMTPProcessClientCommand(SocketHandle socket, std::string_view command,
-                                     std::string_view replyCodeSet, const Clock& clock,
-                                     std::string& ErrorString);
 
 class SmtpDialogue {
   public:
     /// Writes a line to the activity log.
     using Log = std::function<void(std::string_view)>;
 
-    /// The message and the surroundings must outlive the conversation.
-    SmtpDialogue(MessageFields& message, std::string heloName, const MailSurroundings& surroundings,
+    /// The message and the environment must outlive the conversation.
+    SmtpDialogue(MessageFields& message, std::string heloName, const MailEnvironment& environment,
                  Log log);
 
     /// Holds the whole conversation and leaves its outcome in the message's ErrorString and the
@@ -48,7 +40,7 @@ class SmtpDialogue {
 
     MessageFields& message_;
     std::string heloName_;
-    const MailSurroundings& surroundings_;
+    const MailEnvironment& environment_;
     Log log_;
     std::string server_;
     std::string lastRecipient_;

@@ -104,10 +104,10 @@ void frmSend::SetMessageText(const Selection& selection) {
 
 /// Starts a new message, which has these attachments and no others.
 void frmSend::Attach(const std::vector<std::filesystem::path>& files) {
-    MailSurroundings surroundings;
-    surroundings.processPendingEvents = RepaintWindows;
-    surroundings.beforeCommand = [this] { program_.progress->Step(); };
-    message_ = std::make_unique<Message>(program_.config, program_.logs, std::move(surroundings));
+    MailEnvironment environment;
+    environment.processPendingEvents = RepaintWindows;
+    environment.beforeCommand = [this] { program_.progress->Step(); };
+    message_ = std::make_unique<Message>(program_.config, program_.logs, std::move(environment));
     std::u16string names;
     for (const std::filesystem::path& file : files) {
         const std::u16string name = TextFromPath(file.filename());

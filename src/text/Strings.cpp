@@ -3,6 +3,17 @@
 #include <algorithm>
 
 namespace cvlang {
+namespace {
+
+template <typename View>
+View Trimmed(View text) {
+    constexpr auto kBlank = static_cast<typename View::value_type>(' ');
+    text.remove_prefix(std::min(text.find_first_not_of(kBlank), text.size()));
+    return text.substr(0, text.find_last_not_of(kBlank) + 1);
+}
+
+}  // namespace
+
 std::u16string_view SplitField(std::u16string_view text, std::u16string_view delimiter, int n) {
     if (n < 1)
         return {};
@@ -18,8 +29,11 @@ std::u16string_view SplitField(std::u16string_view text, std::u16string_view del
 }
 
 std::u16string_view TrimBlanks(std::u16string_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(u' '), text.size()));
-    return TrimTrailingBlanks(text);
+    return Trimmed(text);
+}
+
+std::string_view TrimBlanks(std::string_view text) {
+    return Trimmed(text);
 }
 
 std::u16string_view TrimTrailingBlanks(std::u16string_view text) {

@@ -18,6 +18,7 @@ std::u16string_view SplitField(std::u16string_view text, std::u16string_view del
 
 /// The text without the blanks at both ends, or at its end alone.
 std::u16string_view TrimBlanks(std::u16string_view text);
+std::string_view TrimBlanks(std::string_view text);
 std::u16string_view TrimTrailingBlanks(std::u16string_view text);
 
 /// The text between the first start marker and the first end marker behind it; empty when either is

@@ -1,11 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "mail/AddressList.h"
 #include "mail/Base64.h"
+#include "mail/HeaderValues.h"
 #include "mail/HtmlToText.h"
-#include "mail/MailDate.h"
 #include "mail/MailError.h"
-#include "mail/MimeNames.h"
 #include "support/Files.h"
 
 namespace cvlang {

@@ -6,7 +6,7 @@
 #include <string>
 #include <thread>
 
-#include "mail/AddressList.h"
+#include "mail/HeaderValues.h"
 #include "platform/SystemInformation.h"
 #include "support/LoopbackPeer.h"
 

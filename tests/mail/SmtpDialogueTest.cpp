@@ -4,7 +4,7 @@
 
 #include "MailFixture.h"
 #include "ScriptedPeer.h"
-#include "mail/SmtpReply.h"
+#include "mail/SmtpConnection.h"
 
 namespace cvlang {
 namespace {

@@ -1,4 +1,4 @@
-// The body of a message, in the layout that its content calls for.
+// The text of a message: its header block and its body, in the layout that its content calls for.
 #pragma once
 
 #include <string>
@@ -8,6 +8,20 @@
 #include "mail/MessageFields.h"
 
 namespace cvlang {
+
+enum class MimeForm { SinglePart, Alternative, Mixed };
+
+/// What a header block holds besides the user's fields.
+struct HeaderDetails {
+    std::string date;
+    std::string messageId;     // without its angle brackets
+    std::string extraHeaders;  // each with its line end
+    MimeForm form;
+    std::string boundary;  // of the forms with several parts
+};
+
+/// The block with the empty line that ends it.
+std::string HeaderBlock(const MessageFields& fields, const HeaderDetails& details);
 
 struct BodyDetails {
     std::vector<Attachment> attachments;

@@ -1,14 +1,15 @@
-// Lists of mail addresses as users write them.
+// What stands in the headers of a message: addresses, its date, and names that must not occur
+// twice.
 #pragma once
 
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace cvlang {
+#include "platform/SystemInformation.h"
+#include "platform/TimeZone.h"
 
-/// The text without the blanks at its ends.
-std::string_view Trimmed(std::string_view text);
+namespace cvlang {
 
 /// The fields of a text between the separators; an empty text has one, which is empty.
 std::vector<std::string_view> SplitList(std::string_view list, char separator);
@@ -23,5 +24,18 @@ std::vector<std::string> MergedAddresses(const std::vector<std::string_view>& li
 
 /// What follows the first "@"; "(unknown)" without one.
 std::string_view GetAddressDomain(std::string_view address);
+
+/// English names of three letters: "Mon", "Jan".
+std::string_view GetDayName(const LocalTime& date);
+std::string_view GetMonthName(const LocalTime& date);
+
+/// "Mon, 2 Jan 2006 15:04:05 +0100".
+std::string FormatMailDate(const LocalTime& time, const TimeZoneInformation& zone);
+
+/// A fresh boundary; always the same one where the system makes no GUID.
+std::string NewMIMEBoundary(const GuidSource& newGuid);
+
+/// A fresh name for a message, as the mail server names its files.
+std::string NewMessageFileName(const GuidSource& newGuid);
 
 }  // namespace cvlang

@@ -1,0 +1,92 @@
+// The connection to a mail server: opening it, sending a command, waiting for the reply.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Sockets.h"
+#include "platform/SystemInformation.h"
+
+namespace cvlang {
+
+/// 0 when the sockets can be used.
+int StartSockets();
+int StopSockets();
+
+bool IsIPAddress(const std::string& host);
+/// The host's address in numbers and dots; empty when there is no such host.
+std::string ResolveHostAddress(const std::string& host);
+
+/// The connected socket, or kNoSocket; LastSocketError then tells the reason.
+SocketHandle ConnectToHost(const std::string& host, int port,
+                           const std::function<void()>& processPendingEvents);
+int CloseConnection(SocketHandle socket);
+
+/// The sockets library for the time of one delivery. When starting it fails, connecting will tell.
+class SocketsSession {
+  public:
+    SocketsSession();
+    ~SocketsSession();
+    SocketsSession(const SocketsSession&) = delete;
+    SocketsSession& operator=(const SocketsSession&) = delete;
+};
+
+/// A connection that is closed at the latest when its owner goes.
+class Connection {
+  public:
+    Connection() = default;
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+    ~Connection() { Close(); }
+
+    void Open(SocketHandle socket) { socket_ = socket; }
+    bool IsOpen() const { return socket_ != kNoSocket; }
+    SocketHandle Socket() const { return socket_; }
+    void Close();
+
+  private:
+    SocketHandle socket_ = kNoSocket;
+};
+
+/// Looks for the codes of a set in a reply that comes in pieces. It keeps no more of the reply than
+/// a code that is still incomplete, however much a server sends.
+class ReplyScanner {
+  public:
+    /// The set's codes are separated by commas; it must outlive the scanner.
+    explicit ReplyScanner(std::string_view replyCodeSet);
+
+    /// Takes the next piece and returns the first code in the set's order that occurs anywhere in
+    /// the reply so far, also amid other digits; empty when none does. A NUL at the end of a piece
+    /// is not part of the reply.
+    std::string_view Add(std::string_view piece);
+
+  private:
+    std::vector<std::string_view> codes_;
+    std::size_t longest_ = 0;
+    std::string text_;
+};
+
+/// How many times the clock's minute changed from one time to the other; negative when the clock
+/// was set back.
+long MinuteBoundariesBetween(const LocalTime& start, const LocalTime& now);
+
+/// The code that the server replies with; empty when the minute in which the wait started ends
+/// first. So a wait takes from under a second up to a minute, which is meant: administrators know
+/// their servers' time-outs by the minute. Raises an error when the connection fails.
+std::string WaitForReply(SocketHandle socket, std::string_view replyCodeSet, const Clock& clock,
+                         const LocalTime& start);
+
+/// Returned in a code's place when nothing could be sent. No list of codes contains it, so that it
+/// never counts as a refusal.
+inline constexpr std::string_view kGeneralError = "General Error";
+
+/// Sends a command's bytes, an empty one not at all, and returns the code of the set that the
+/// server replies with; kGeneralError when nothing could be sent. An empty set is not waited
+/// for. When receiving fails, ErrorString says in which command, and the error is raised.
+std::string SMTPProcessClientCommand(SocketHandle socket, std::string_view command,
+                                     std::string_view replyCodeSet, const Clock& clock,
+                                     std::string& ErrorString);
+
+}  // namespace cvlang
