@@ -19,10 +19,10 @@ def remove(path):
 
 
 class Bench:
-    """The settings of this invocation, and the installations it uses."""
+    """The settings of this invocation, its report, and the installations it uses."""
 
-    def __init__(self, args, work, disk):
-        self.args, self.work, self.disk = args, work, disk
+    def __init__(self, args, work, disk, report):
+        self.args, self.work, self.disk, self.report = args, work, disk, report
         self.program = self.built("src/app/CVLangTranslator")
         self.scratch = os.path.join(work, "scratch")  # the program's log goes there
         os.makedirs(self.scratch, exist_ok=True)
@@ -95,6 +95,6 @@ def compare(bench, title, cases, runs=None):
     rows = [[case.name, median(own), median(own, "cpu"), *(
         [ratio(own, samples[0], field) for field in Sample._fields])]
             for case, own in zip(cases, samples)]
-    show(bench.args.markdown, title + " (median ms)",
+    show(bench.report, title + " (median ms)",
          ["", "wall", "CPU", "wall ratio", "CPU ratio"], rows)
     return samples

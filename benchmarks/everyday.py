@@ -48,7 +48,7 @@ def message(bench):
     size = int(subprocess.run(compose, cwd=bench.scratch, check=True,
                               stdout=subprocess.PIPE).stdout)
     used = peak(compose, None, bench.scratch)
-    show(bench.args.markdown, "memory for that message", ["", "MiB", "ratio"],
+    show(bench.report, "memory for that message", ["", "MiB", "ratio"],
          [["the message", size / 2**20, 1.0], ["composing it", used, used / (size / 2**20)]])
 
 
@@ -65,7 +65,7 @@ def list_filling(bench, folder):
                                                  "NO_AT_BRIDGE": "1"}).stdout
     bare, click = (list(map(float, line.split())) for line in output.decode().splitlines())
     ratios = [one / other for one, other in zip(click, bare)]
-    show(bench.args.markdown, f"a list of {TOKENS} tokens (median ms)", ["", "wall", "ratio"],
+    show(bench.report, f"a list of {TOKENS} tokens (median ms)", ["", "wall", "ratio"],
          [["the toolkit's list, filled at once", statistics.median(bare), 1.0],
           ["a click on a language", statistics.median(click), statistics.median(ratios)]])
 

@@ -33,7 +33,7 @@ def yardsticks(bench, size):
             + [ratio(samples[-1], own, field) for field in Sample._fields]
             for case, own in zip(cases, samples)]
     pages, page_bytes, tokens = generator.PRESETS[size]
-    show(bench.args.markdown, f"{size}: {pages} pages of {page_bytes // 1000} KB, {tokens} tokens "
+    show(bench.report, f"{size}: {pages} pages of {page_bytes // 1000} KB, {tokens} tokens "
          "(ms; the last columns: the program's time divided by this row's)",
          ["", "wall", "min", "max", "CPU", "min", "max", "wall ratio", "CPU ratio"], rows)
     remove(french(folder))
@@ -71,7 +71,7 @@ def load_time(bench):
     rows = [[field] + [1000 * statistics.median(getattr(b, field) - getattr(a, field)
                                                 for a, b in zip(few, many))
                        / (MANY_TOKENS - FEW_TOKENS)] for field in Sample._fields]
-    show(bench.args.markdown, "load time per token", ["", "microseconds"], rows)
+    show(bench.report, "load time per token", ["", "microseconds"], rows)
 
 
 def single_line(bench):
@@ -82,7 +82,7 @@ def single_line(bench):
                             bench.translate(folders[1], f"{LARGE_LINE // 1_000_000} MB")])
     sizes = [os.path.getsize(os.path.join(reference(folder), "Line.aspx")) for folder in folders]
     rows = [[field, ratio(large, small, field) * sizes[0] / sizes[1]] for field in Sample._fields]
-    show(bench.args.markdown, "time per byte, large line beside small line", ["", "ratio"], rows)
+    show(bench.report, "time per byte, large line beside small line", ["", "ratio"], rows)
     return folders[1]
 
 
@@ -93,7 +93,7 @@ def peak_memory(bench, folders):
         case.prepare()
         rows.append([name, peak(case.command, case.registry, bench.scratch)])
         remove(french(folder))
-    show(bench.args.markdown, "peak memory of the program", ["", "MiB"], rows)
+    show(bench.report, "peak memory of the program", ["", "MiB"], rows)
 
 
 def measure_generation(bench, sizes):

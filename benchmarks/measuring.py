@@ -74,18 +74,18 @@ def peak(command, registry, scratch):
     return int(done.stdout.split()[-1]) / 1024
 
 
-def show(markdown, title, header, rows):
-    """Prints a table: the first column to the left, the others to the right."""
+def show(report, title, header, rows):
+    """Prints a table and writes it to the report as Markdown: first column to the left, others to the right."""
     table = [header] + [[cell if isinstance(cell, str) else f"{cell:.2f}" for cell in row]
                         for row in rows]
     widths = [max(len(row[column]) for row in table) for column in range(len(header))]
     lines = [[cell.rjust(width) if column else cell.ljust(width)
               for column, (cell, width) in enumerate(zip(row, widths))] for row in table]
     rule = ["-" * (width - 1) + (":" if column else "-") for column, width in enumerate(widths)]
-    print(f"\n## {title}\n" if markdown else f"\n{title}")
-    for line in [lines[0], rule] + lines[1:] if markdown else lines:
-        print("| " + " | ".join(line) + " |" if markdown else "  " + "  ".join(line))
-    sys.stdout.flush()
+    print("", title, *("  " + "  ".join(line) for line in lines), sep="\n", flush=True)
+    lines.insert(1, rule)
+    print("", f"## {title}", "", *("| " + " | ".join(line) + " |" for line in lines),
+          sep="\n", file=report, flush=True)
 
 
 def file_system(path):

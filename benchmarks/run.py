@@ -23,7 +23,6 @@ def parse_arguments():
     parser.add_argument("--runs", type=int, default=7)
     parser.add_argument("--work", metavar="FOLDER", help="keeps the installations for next time")
     parser.add_argument("--disk", metavar="FOLDER", default=".", help="on a disk file system")
-    parser.add_argument("--markdown", action="store_true")
     args = parser.parse_args()
     if args.runs < 1:
         parser.error("--runs must be at least 1")
@@ -35,13 +34,14 @@ def main():
     work = args.work or tempfile.mkdtemp(prefix="translator-benchmark-", dir="/dev/shm")
     disk = tempfile.mkdtemp(prefix="translator-benchmark-", dir=args.disk)
     try:
-        bench = Bench(args, os.path.abspath(work), os.path.abspath(disk))
-        show(args.markdown, "machine", ["", ""],
-             machine() + [["file system", file_system(work)],
-                          ["file system of the disk section", file_system(disk)],
-                          ["rounds", f"{args.runs} after one to warm up"]])
-        measure_generation(bench, generator.PRESETS if args.size == "both" else [args.size])
-        measure_everyday(bench)
+        with open(os.path.join(args.build, "benchmark.md"), "w", encoding="utf-8") as report:
+            bench = Bench(args, os.path.abspath(work), os.path.abspath(disk), report)
+            show(report, "machine", ["", ""],
+                 machine() + [["file system", file_system(work)],
+                              ["file system of the disk section", file_system(disk)],
+                              ["rounds", f"{args.runs} after one to warm up"]])
+            measure_generation(bench, generator.PRESETS if args.size == "both" else [args.size])
+            measure_everyday(bench)
     finally:
         remove(disk)
         if not args.work:
