@@ -1,9 +1,8 @@
 #include "platform/posix/RegistryExport.h"
 
 #include <algorithm>
-#include <charconv>
-#include <vector>
 
+#include "platform/Ansi.h"
 #include "platform/LetterCase.h"
 #include "text/Unicode.h"
 
@@ -11,58 +10,66 @@ namespace cvlang {
 namespace {
 
 constexpr std::u16string_view kRoot = u"HKEY_LOCAL_MACHINE\\";
+constexpr std::u16string_view kShortRoot = u"HKLM\\";
 constexpr std::u16string_view kBlanks = u" \t";
+constexpr std::string_view kAnsiHeader = "REGEDIT4";
 
 // The kinds of value that matter here, by the registry's own numbers.
 constexpr unsigned kString = 1;
 constexpr unsigned kExpandableString = 2;
+constexpr unsigned kBinary = 3;
 constexpr unsigned kDword = 4;
 
-std::u16string DecodeFile(std::string_view file) {
-    const bool marked = file.substr(0, 2) == "\xFF\xFE";
-    // Without a mark: an export begins with ASCII, whose high bytes are zero in UTF-16.
-    if (!marked && !(file.size() >= 2 && file[1] == '\0')) {
-        if (file.substr(0, 3) == "\xEF\xBB\xBF")
-            file.remove_prefix(3);
-        return Utf8ToUtf16(file);
-    }
-    file.remove_prefix(marked ? 2 : 0);
+std::u16string FromUtf16Bytes(std::string_view bytes) {
     std::u16string text;
-    for (std::size_t i = 0; i + 1 < file.size(); i += 2) {
-        text += static_cast<char16_t>(static_cast<unsigned char>(file[i]) |
-                                      static_cast<unsigned char>(file[i + 1]) << 8);
+    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+        text += static_cast<char16_t>(static_cast<unsigned char>(bytes[i]) |
+                                      static_cast<unsigned char>(bytes[i + 1]) << 8);
     }
     return text;
 }
 
-std::u16string_view Trim(std::u16string_view text) {
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    if (first == std::u16string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+std::u16string DecodeFile(std::string_view file) {
+    if (file.starts_with("\xFF\xFE"))
+        return FromUtf16Bytes(file.substr(2));
+    // Without a mark: an export begins with ASCII, whose high bytes are zero in UTF-16.
+    if (file.size() >= 2 && file[1] == '\0')
+        return FromUtf16Bytes(file);
+    if (file.starts_with(kAnsiHeader))
+        return AnsiToUtf16(file);
+    return Utf8ToUtf16(file.substr(file.starts_with("\xEF\xBB\xBF") ? 3 : 0));
 }
 
-/// Takes the next line off the text, trimmed.
-std::u16string_view TakeLine(std::u16string_view& text) {
-    const std::size_t end = text.find_first_of(u"\r\n");
-    const std::u16string_view line = text.substr(0, end);
-    text.remove_prefix(end == std::u16string_view::npos ? text.size() : end + 1);
-    return Trim(line);
+void SkipBlanks(std::u16string_view& text) {
+    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
 }
 
-/// Takes the next line and those that continue it. Only bytes in hexadecimal are continued: a
-/// string may end in "\".
-std::u16string TakeEntry(std::u16string_view& text) {
-    std::u16string entry(TakeLine(text));
-    const bool hasBytes = entry.rfind(u'"', 0) == 0 && entry.find(u"=hex") != std::u16string::npos;
-    while (hasBytes && entry.back() == u'\\' && !text.empty()) {
-        entry.pop_back();
-        entry += TakeLine(text);
-    }
-    return entry;
+bool TakePrefix(std::u16string_view& text, std::u16string_view prefix) {
+    const bool starts = text.starts_with(prefix);
+    text.remove_prefix(starts ? prefix.size() : 0);
+    return starts;
 }
 
-/// Takes a quoted text off the front; nothing when it is not one.
+/// Whether nothing but a comment is left of a line.
+bool IsAtEnd(std::u16string_view line) {
+    SkipBlanks(line);
+    return line.empty() || line.front() == u';';
+}
+
+/// Takes a hexadecimal number and the blanks before it; nothing when there is none or it is too
+/// long.
+std::optional<std::uint32_t> TakeHex(std::u16string_view& text, std::size_t mostDigits) {
+    SkipBlanks(text);
+    const std::size_t size =
+        std::min(text.find_first_not_of(u"0123456789abcdefABCDEF"), text.size());
+    if (size == 0 || size > mostDigits)
+        return std::nullopt;
+    const auto number = std::stoul(Utf16ToUtf8(text.substr(0, size)), nullptr, 16);
+    text.remove_prefix(size);
+    return static_cast<std::uint32_t>(number);
+}
+
+/// Takes a text in quotation marks; nothing when it is not one.
 std::optional<std::u16string> TakeQuoted(std::u16string_view& text) {
     std::u16string unquoted;
     for (std::size_t i = 1; i < text.size() && text[0] == u'"'; ++i) {
@@ -70,137 +77,171 @@ std::optional<std::u16string> TakeQuoted(std::u16string_view& text) {
             text.remove_prefix(i + 1);
             return unquoted;
         }
-        if (text[i] == u'\\' && ++i == text.size())
+        if (text[i] != u'\\') {
+            unquoted += text[i];
+            continue;
+        }
+        if (++i == text.size() || text[i] == u'0')
             break;
-        unquoted += text[i];
+        unquoted += text[i] == u'n' ? u'\n' : text[i] == u'r' ? u'\r' : text[i];
     }
     return std::nullopt;
 }
 
-std::optional<std::uint32_t> HexNumber(std::u16string_view digits, std::size_t mostDigits) {
-    const std::string ascii = Utf16ToUtf8(digits);
-    std::uint32_t number = 0;
-    const char* end = ascii.data() + ascii.size();
-    const auto [parsed, error] = std::from_chars(ascii.data(), end, number, 16);
-    if (ascii.size() > mostDigits || error != std::errc() || parsed != end)
-        return std::nullopt;
-    return number;
-}
-
-/// The bytes of "61,00,62,00"; nothing when a byte is malformed.
-std::optional<std::vector<std::uint8_t>> HexBytes(std::u16string_view list) {
-    std::vector<std::uint8_t> bytes;
-    while (!Trim(list).empty()) {
-        const std::size_t comma = list.find(u',');
-        const auto byte = HexNumber(Trim(list.substr(0, comma)), 2);
-        if (!byte)
-            return std::nullopt;
-        bytes.push_back(static_cast<std::uint8_t>(*byte));
-        list.remove_prefix(comma == std::u16string_view::npos ? list.size() : comma + 1);
-    }
-    return bytes;
-}
-
-RegistryValue ValueFromBytes(unsigned kind, const std::vector<std::uint8_t>& bytes) {
-    RegistryValue value;
-    if (kind == kString || kind == kExpandableString) {
-        value.text = std::u16string();
-        for (std::size_t i = 0; i + 1 < bytes.size(); i += 2)
-            *value.text += static_cast<char16_t>(bytes[i] | bytes[i + 1] << 8);
-        if (!value.text->empty() && value.text->back() == u'\0')
-            value.text->pop_back();
-    } else if (kind == kDword && bytes.size() == 4) {
-        std::uint32_t number = 0;
-        for (std::size_t i = 0; i < bytes.size(); ++i)
-            number |= static_cast<std::uint32_t>(bytes[i]) << (8 * i);
-        value.number = static_cast<std::int32_t>(number);
-    }
-    return value;
-}
-
-bool TakePrefix(std::u16string_view& text, std::u16string_view prefix) {
-    if (text.substr(0, prefix.size()) != prefix)
-        return false;
-    text.remove_prefix(prefix.size());
-    return true;
-}
-
-/// What stands behind "name"=; nothing when it is malformed.
-std::optional<RegistryValue> ParseValue(std::u16string_view data) {
-    if (data == u"-")
-        return RegistryValue();
-    if (auto text = TakeQuoted(data))
-        return Trim(data).empty() ? std::optional(RegistryValue{std::move(text), {}})
-                                  : std::nullopt;
-    if (TakePrefix(data, u"dword:")) {
-        const auto number = HexNumber(data, 8);
-        return number ? std::optional(RegistryValue{{}, static_cast<std::int32_t>(*number)})
-                      : std::nullopt;
-    }
-    if (!TakePrefix(data, u"hex"))
-        return std::nullopt;
-    std::optional<std::uint32_t> kind = 3;  // plain "hex:" is binary
-    if (TakePrefix(data, u"(")) {
-        const std::size_t closing = std::min(data.find(u')'), data.size());
-        kind = HexNumber(data.substr(0, closing), 8);
-        data.remove_prefix(std::min(closing + 1, data.size()));
-    }
-    if (!kind || !TakePrefix(data, u":"))
-        return std::nullopt;
-    const auto bytes = HexBytes(data);
-    return bytes ? std::optional(ValueFromBytes(*kind, *bytes)) : std::nullopt;
-}
-
-/// Follows which key the lines belong to.
-class Section {
+/// One pass over a file's lines, which keeps what the wanted value was last set to.
+class ExportReader {
   public:
-    explicit Section(std::u16string_view key)
-        : wanted_(ToUpper(std::u16string(kRoot) + std::u16string(key))) {}
+    ExportReader(std::string_view file, std::u16string_view key, std::u16string_view name)
+        : isAnsi_(file.starts_with(kAnsiHeader)),
+          text_(DecodeFile(file)),
+          rest_(text_),
+          wantedKey_(Normalise(std::u16string(kRoot).append(key))),
+          wantedName_(ToUpper(name)) {}
 
-    bool IsWanted() const { return isWanted_; }
-
-    /// Takes a line such as [HKEY_...]. True when it takes away the key that is looked for.
-    bool Enter(std::u16string_view line) {
-        const std::u16string key = ToUpper(line.substr(1, line.size() - 2));
-        isWanted_ = key == wanted_;
-        return key.size() > 1 && key[0] == u'-' &&
-               (wanted_ + u'\\').rfind(key.substr(1) + u'\\', 0) == 0;
+    RegistryValue Read() {
+        while (!rest_.empty()) {
+            std::u16string_view line = TakeLine();
+            if (line.starts_with(u'['))
+                EnterKey(line);
+            else if (line.starts_with(u'"'))
+                ReadEntry(line);
+        }
+        return found_;
     }
 
   private:
-    std::u16string wanted_;
-    bool isWanted_ = false;
-};
+    /// A key's name as it is compared: in capitals, with the root's full name, and without the
+    /// backslashes that mean nothing.
+    static std::u16string Normalise(std::u16string_view key) {
+        const std::u16string upper = ToUpper(key);
+        std::u16string_view path = upper;
+        std::u16string normal(TakePrefix(path, kShortRoot) ? kRoot : u"");
+        for (const char16_t c : path) {
+            if (c != u'\\' || !normal.ends_with(u'\\'))
+                normal += c;
+        }
+        if (!normal.ends_with(u'\\'))
+            normal += u'\\';
+        return normal;
+    }
 
-/// Takes a line "name"=data; nothing when it is malformed or names another value.
-std::optional<RegistryValue> ParseEntry(std::u16string_view entry,
-                                        const std::u16string& upperName) {
-    const auto name = TakeQuoted(entry);
-    if (!name || ToUpper(*name) != upperName)
-        return std::nullopt;
-    entry = Trim(entry);
-    return TakePrefix(entry, u"=") ? ParseValue(Trim(entry)) : std::nullopt;
-}
+    /// Takes the next line that is neither blank nor a comment; empty at the end of the file.
+    std::u16string_view TakeLine() {
+        std::u16string_view line;
+        while (IsAtEnd(line) && !rest_.empty()) {
+            line = rest_.substr(0, rest_.find_first_of(u"\r\n"));
+            rest_.remove_prefix(std::min(line.size() + 1, rest_.size()));
+            SkipBlanks(line);
+        }
+        return IsAtEnd(line) ? std::u16string_view() : line;
+    }
+
+    /// A line that looks like a key but is none leaves the key before it in force.
+    void EnterKey(std::u16string_view line) {
+        const std::size_t closing = line.rfind(u']');
+        line = line.substr(1, closing - 1);
+        if (closing == std::u16string_view::npos || line.find_first_of(kBlanks) == 0)
+            return;
+        const bool isRemoved = TakePrefix(line, u"-");
+        const std::u16string key = Normalise(line);
+        isWanted_ = !isRemoved && key == wantedKey_;
+        if (isRemoved && wantedKey_.starts_with(key))
+            found_ = {};
+    }
+
+    /// Reads "name"=data. Every entry is read whole, because bytes may go on in the next lines.
+    void ReadEntry(std::u16string_view line) {
+        const auto name = TakeQuoted(line);
+        SkipBlanks(line);
+        if (!name || !TakePrefix(line, u"="))
+            return;
+        SkipBlanks(line);
+        const auto value = ReadData(line);
+        if (value && isWanted_ && ToUpper(*name) == wantedName_)
+            found_ = *value;
+    }
+
+    std::optional<RegistryValue> ReadData(std::u16string_view data) {
+        RegistryValue value;
+        if (data.starts_with(u'"')) {
+            value.text = TakeQuoted(data);
+            return value.text && IsAtEnd(data) ? std::optional(value) : std::nullopt;
+        }
+        if (TakePrefix(data, u"dword:")) {
+            if (const auto number = TakeHex(data, 8))
+                value.number = static_cast<std::int32_t>(*number);
+            return value.number && IsAtEnd(data) ? std::optional(value) : std::nullopt;
+        }
+        if (TakePrefix(data, u"-"))
+            return IsAtEnd(data) ? std::optional(value) : std::nullopt;
+        return ReadBytes(data);
+    }
+
+    /// Reads "hex:00,01" or "hex(2):61,00".
+    std::optional<RegistryValue> ReadBytes(std::u16string_view data) {
+        if (!TakePrefix(data, u"hex"))
+            return std::nullopt;
+        std::optional<std::uint32_t> kind = kBinary;
+        if (TakePrefix(data, u"(")) {
+            kind = TakeHex(data, 8);
+            if (!kind || !TakePrefix(data, u")"))
+                return std::nullopt;
+        }
+        const auto bytes = TakePrefix(data, u":") ? TakeBytes(data) : std::nullopt;
+        return bytes ? ValueFromBytes(*kind, *bytes) : std::nullopt;
+    }
+
+    /// The bytes of a line and of those that continue it; nothing when one of them is malformed or
+    /// the last one is missing.
+    std::optional<std::string> TakeBytes(std::u16string_view list) {
+        std::string bytes;
+        for (bool goesOn = true; goesOn && !IsAtEnd(list);) {
+            SkipBlanks(list);
+            if (TakePrefix(list, u"\\")) {
+                const bool isLast = IsAtEnd(list);
+                list = TakeLine();
+                if (!isLast || list.empty() || list.front() == u'\\')
+                    return std::nullopt;
+            }
+            const auto byte = TakeHex(list, 8);
+            if (!byte || *byte > 0xFF)
+                return std::nullopt;
+            bytes += static_cast<char>(*byte);
+            goesOn = TakePrefix(list, u",");
+        }
+        return IsAtEnd(list) ? std::optional(bytes) : std::nullopt;
+    }
+
+    std::optional<RegistryValue> ValueFromBytes(std::uint32_t kind, std::string_view bytes) const {
+        RegistryValue value;
+        if (kind == kString || kind == kExpandableString) {
+            if (!isAnsi_ && bytes.size() % 2 != 0)
+                return std::nullopt;
+            value.text = isAnsi_ ? AnsiToUtf16(bytes) : FromUtf16Bytes(bytes);
+            if (value.text->ends_with(u'\0'))
+                value.text->pop_back();
+        } else if (kind == kDword && bytes.size() == 4) {
+            const std::u16string halves = FromUtf16Bytes(bytes);
+            value.number =
+                static_cast<std::int32_t>(halves[0] | static_cast<std::uint32_t>(halves[1]) << 16);
+        }
+        return value;
+    }
+
+    bool isAnsi_;
+    std::u16string text_;
+    std::u16string_view rest_;
+    std::u16string wantedKey_;
+    std::u16string wantedName_;
+    bool isWanted_ = false;
+    RegistryValue found_;
+};
 
 }  // namespace
 
 RegistryValue FindInRegistryExport(std::string_view file, std::u16string_view key,
                                    std::u16string_view name) {
-    const std::u16string text = DecodeFile(file);
-    const std::u16string upperName = ToUpper(name);
-    Section section(key);
-    RegistryValue found;
-    for (std::u16string_view rest = text; !rest.empty();) {
-        const std::u16string entry = TakeEntry(rest);
-        if (entry.size() > 2 && entry.front() == u'[' && entry.back() == u']') {
-            if (section.Enter(entry))
-                found = {};
-        } else if (section.IsWanted()) {
-            if (const auto value = ParseEntry(entry, upperName))
-                found = *value;
-        }
-    }
-    return found;
+    return ExportReader(file, key, name).Read();
 }
 
 }  // namespace cvlang

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <regex>
 #include <vector>
 
+#include "platform/Ansi.h"
 #include "platform/FileCopy.h"
 #include "platform/Paths.h"
 #include "platform/Process.h"
@@ -54,43 +56,73 @@ TEST(CommandLineText, IsRebuiltFromTheArguments) {
         EXPECT_EQ(CommandLineText(static_cast<int>(arguments.size()), arguments.data()), text);
 }
 
-constexpr char kKey[] = "[HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\Corvane]\r\n";
+constexpr char kKey[] = "[HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\Corvane]\n";
 
 RegistryValue Value(const std::string& file) {
     return FindInRegistryExport(file, u"SOFTWARE\\Corvane\\Corvane", u"Value");
 }
 
-TEST(RegistryExport, StringsAreReadWithTheirEscapesAndNumbersAreDwordsOnly) {
+TEST(RegistryExport, IsReadAsTheImporterOfWindowsReadsIt) {
     const std::tuple<const char*, std::optional<std::u16string>, std::optional<std::int32_t>>
         cases[] = {
-            {R"("Value"="C:\\Program Files")", u"C:\\Program Files", {}},
-            {R"("Value"="say \"hello\"")", u"say \"hello\"", {}},
+            {R"("Value"="C:\\Program Files" ; comment)", u"C:\\Program Files", {}},
+            {R"("Value"="say \"hello\";\n")", u"say \"hello\";\n", {}},
             {R"(  "VALUE" = ""  )", u"", {}},
-            {"\"Value\"=hex(2):41,00,42,\\\n  00,00,00", u"AB", {}},
+            {"\"Value\"= hex(2):41,00,\\ ;\n;\n\n  42, 00,00,00 ;", u"AB", {}},
+            {"\"Value\"=hex(1):41,00,42,\\\n00", u"AB", {}},
+            {"\"Value\"=hex(2):41,00,\\\n", {}, {}},
+            {"\"Value\"=hex(2):41,00,\\\n\"Value\"=\"continues nothing\"", {}, {}},
+            {R"("Value"=hex(2):41,00,42)", {}, {}},
+            {R"("Value"=hex(2):41,00 x)", {}, {}},
             {R"("Value"=hex:41,00,00,00)", {}, {}},
+            {R"("Value"=hex(2:41,00)", {}, {}},
             {R"("Value"="ends in backslash\)", {}, {}},
+            {R"("Value"="more" x)", {}, {}},
             {"\"Value\"=\"first\"\n\"Value\"=\"second\"", u"second", {}},
-            {"\"Value\"=\"first\"\n\"Value\"=-", {}, {}},
-            {"\"Value\"=\"first\"\n[-HKEY_LOCAL_MACHINE\\SOFTWARE\\corvane]", {}, {}},
+            {"\"Value\"=\"first\"\n\"Value\"=hex(2):no", u"first", {}},
+            {"\"Value\"=\"first\"\n\"Value\"=-;", {}, {}},
+            {"\"Value\"=\"first\"\n[-HKLM\\SOFTWARE\\corvane]", {}, {}},
             {"\"Value\"=\"first\"\n[HKEY_CURRENT_USER\\X]\n\"Value\"=\"other\"", u"first", {}},
-            {R"("Value"=dword:00000002)", {}, 2},
+            {"[X]\n [HKLM\\Software\\\\CORVANE\\Corvane\\] ;\n\"Value\"=\"a\"", u"a", {}},
+            {R"("Value"=dword: 00000002;)", {}, 2},
             {R"("Value"=dword:ffffffff)", {}, -1},
             {R"("Value"=dword:000000002)", {}, {}},
-            {R"("Value"=hex(4):02,01,00,00)", {}, 258},
-            {R"("Value"=hex(4):02,00)", {}, {}},
-            {R"("Value"=hex(4:02,00,00,00)", {}, {}}};
+            {R"("Value"=hex(4):02,01,00,80)", {}, -0x7FFFFEFE},
+            {R"("Value"=hex(4):02,00)", {}, {}}};
     for (const auto& [lines, text, number] : cases) {
-        const RegistryValue value = Value(std::string(kKey) + lines + "\r\n");
-        EXPECT_EQ(value.text, text) << lines;
-        EXPECT_EQ(value.number, number) << lines;
+        const std::string file = std::string(kKey) + lines + "\n";
+        for (const RegistryValue& value :
+             {Value(file), Value(std::regex_replace(file, std::regex("\n"), "\r\n"))}) {
+            EXPECT_EQ(value.text, text) << lines;
+            EXPECT_EQ(value.number, number) << lines;
+        }
     }
 }
 
-TEST(RegistryExport, TheFileMayBeUtf16OrUtf8WithAMarkOrWithout) {
-    const std::u16string text = Utf8ToUtf16(kKey) + u"\"Value\"=\"\u3042\"\r\n";
-    for (const std::string& file : {Utf16Bytes(text), Utf16Bytes(text).substr(2), Utf16ToUtf8(text),
-                                    "\xEF\xBB\xBF" + Utf16ToUtf8(text)})
-        EXPECT_EQ(Value(file).text, u"\u3042");
+TEST(RegistryExport, TheFileMayBeUtf16OrUtf8WithAMarkOrWithoutOrAnsi) {
+    const std::u16string text = Utf8ToUtf16(kKey) + u"\"Value\"=\"\u00E9\"\r\n";
+    const std::string bytes = "\"Value\"=hex(2):e9,00\r\n";
+    for (const std::string& file :
+         {Utf16Bytes(text), Utf16Bytes(text).substr(2), Utf16ToUtf8(text),
+          "\xEF\xBB\xBF" + Utf16ToUtf8(text), "REGEDIT4\r\n" + Utf16ToAnsi(text),
+          "REGEDIT4\r\n" + std::string(kKey) + bytes})
+        EXPECT_EQ(Value(file).text, u"\u00E9") << file;
+}
+
+// exported.reg was written by Wine's "reg export" for the values that are expected here.
+TEST(RegistryExport, WhatAnExporterWroteIsReadBack) {
+    constexpr std::u16string_view kCharacters = u"aB ;\"\\\u00E9\u3042\u017E\u00DF,=[]-";
+    std::u16string text;
+    for (std::size_t i = 0; i < 300; ++i)
+        text += kCharacters[i * i / 3 % kCharacters.size()];
+    const std::string file = FileBytes(EXPORTED_SETTINGS);
+    const auto value = [&file](std::u16string_view name) {
+        return FindInRegistryExport(file, u"SOFTWARE\\Corvane\\Corvane", name);
+    };
+    EXPECT_EQ(value(u"Expandable").text, text);
+    EXPECT_EQ(value(u"String").text, text);
+    EXPECT_EQ(value(u"Several").text, std::nullopt);
+    EXPECT_EQ(value(u"Number").number, -2);
 }
 
 }  // namespace
