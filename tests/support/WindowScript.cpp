@@ -55,7 +55,7 @@ void RunIn(wxDialog& dialog, const std::function<void(wxDialog&)>& actions) {
     } catch (const std::exception& error) {
         ADD_FAILURE() << error.what();
     }
-    if (dialog.IsModal()) {
+    if (dialog.IsShown()) {
         ADD_FAILURE() << dialog.GetTitle() << " is still open";
         dialog.EndModal(wxID_CANCEL);
     }

@@ -29,7 +29,8 @@ with (tempfile.TemporaryDirectory() as folder,
       server(r"\d", ["Xvfb", "-displayfd", "1", "-nolisten", "tcp", "-screen", "0", screen]) as display,
       http.server.ThreadingHTTPServer(("127.0.0.1", 0), functools.partial(
           http.server.SimpleHTTPRequestHandler, directory=folder)) as web):
-    environment = os.environ | {"DISPLAY": f":{display}", "GDK_BACKEND": "x11"}
+    environment = {"NO_AT_BRIDGE": "1", "LSAN_OPTIONS": f"suppressions={sys.path[0]}/library-leaks.txt"} | os.environ
+    environment |= {"DISPLAY": f":{display}", "GDK_BACKEND": "x11"}
     threading.Thread(target=web.serve_forever, daemon=True).start()
     with server("ready", ["openbox", "--startup", "echo ready"], env=environment):
         status = subprocess.call(sys.argv[1:], env=environment | {
