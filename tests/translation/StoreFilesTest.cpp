@@ -6,7 +6,9 @@
 #include "text/Lines.h"
 #include "text/Strings.h"
 #include "translation/LanguageList.h"
+#include "translation/LanguageTable.h"
 #include "translation/StoreFile.h"
+#include "translation/TokenEditing.h"
 #include "translation/TokenMapFile.h"
 
 namespace cvlang {
@@ -63,7 +65,7 @@ TEST(KeyedLines, EveryFailureLeavesItsState) {
 
     EXPECT_EQ(fake.ErrorLog(), kNoFile);
     Rewrite(fake, "none");  // only a file that cannot be opened is told
-    EXPECT_TRUE(fake.ErrorLog().ends_with("\tUnable to update token\r\n"));
+    EXPECT_EQ(SplitField(AnsiToUtf16(fake.ErrorLog()), kTab, 2), u"Unable to update token\r\n");
 }
 
 const Selection kSelection{u"WebMail", u"default", u"French"};
@@ -121,6 +123,114 @@ TEST(TokenMapFile, LinesAreLoadedAtTheirNumbersAndTheFirstWithExactlyTheTokenIsF
         EXPECT_EQ(GetTokenValue(fake.program, u"[CV_A]: Hello [x]: y", u"default", language),
                   value);
     }
+}
+
+TEST(LanguageList, ANewLanguageIsAppendedUnlessItsNameOrAbbreviationIsListed) {
+    FakeProgram fake;
+    const auto add = [&fake](std::u16string_view name, std::u16string_view abbreviation) {
+        fake.messages.shown.clear();
+        AddLanguageToBase(fake.program, kSelection, name, abbreviation);
+        return fake.messages.shown.empty() ? u"" : fake.messages.shown[0].text;
+    };
+    EXPECT_EQ(add(u"Greek", u"el"),
+              u"Could not load language file " + TextFromPath(fake.folder / kList));
+    EXPECT_EQ(FileBytes(kList), kNoFile);
+
+    const std::u16string name = u"That language name already exists and cannot be added.";
+    const std::u16string abbreviation =
+        u"That language abbreviation already exists and cannot be added.";
+    const std::string list = "French\tfr\n\nGerman\tde";
+    const std::tuple<std::u16string, std::u16string, std::u16string, std::string> cases[] = {
+        {u"french", u"DE", name, ""},
+        {u"GERMAN", u"xx", name, ""},
+        {u"Greek", u"FR", abbreviation, ""},
+        {u"Greek", u"", abbreviation, ""},  // the blank line has none either
+        {u"Fran\u00E7ais", u"\u03B5", u"",
+         "Fran\xE7"
+         "ais\t?\r\n"}};
+    for (const auto& [newName, newAbbreviation, refusal, line] : cases) {
+        PutFile(kList, list);
+        EXPECT_EQ(add(newName, newAbbreviation), refusal);
+        EXPECT_EQ(FileBytes(kList),
+                  line.empty() ? list : "French\tfr\r\n\r\nGerman\tde\r\n" + line);
+    }
+}
+
+TEST(LanguageTable, RecordsEachAbbreviationOnceForAllApplications) {
+    const FakeProgram fake;
+    PutFile("_LANGUAGES.TAB", "left over");
+    UpdateLanguageTable(fake.program, u"WebMail", u"French", u"fr");
+    UpdateLanguageTable(fake.program, u"WebAdmin", u"Fran\u00E7ais", u"fr");
+    UpdateLanguageTable(fake.program, u"WebAdmin", u"German", u"de");
+    EXPECT_EQ(FileBytes("LANGUAGES.TAB"), Utf16Bytes(u"fr\tFran\u00E7ais\r\nde\tGerman\r\n"));
+    EXPECT_EQ(FileBytes("_LANGUAGES.TAB"), kNoFile);
+}
+
+TEST(TokenEditing, AValueIsSavedUnderTheNamesOfTheAuthoringVersion) {
+    FakeProgram fake;
+    for (const auto& [version, file, copy] :
+         {std::tuple{2, kFrench, "WebMail-default-_tokens-fr.map"},
+          {1, "WebMail-default-tokens.fr", "WebMail-default-_tokens.fr"}}) {
+        fake.registry.numbers[u"Authoring Version"] = version;
+        PutFile(file, Utf16Bytes(u"[CV_A]\told\r\n"));
+        PutFile(copy, "left over");
+        UpdateToken(fake.program, kSelection, u"[CV_A]: A [x]: b", u"new");
+        EXPECT_EQ(FileBytes(file), Utf16Bytes(u"[CV_A]\tnew\r\n"));
+        EXPECT_EQ(FileBytes(copy), kNoFile);
+    }
+}
+
+TEST(TokenEditing, ATokenIsAddedAtTheEndOnALineOfItsOwn) {
+    const TemporaryFolder folder;
+    const std::u16string more = u"\t\t\t[CV_TXT- MORE]\tMore \u20AC\r\n";
+    const std::tuple<std::string, std::u16string> cases[] = {
+        {"", more},
+        {Utf16Bytes(u"a"), u"a\r\n" + more},
+        {Utf16Bytes(u"a") + "x", u"a\r\n" + more},  // half a character at the end
+        {Utf16Bytes(u"a\n"), u"a\n\r\n" + more},
+        {Utf16Bytes(u"a\r\n"), u"a\r\n" + more}};
+    for (const auto& [before, after] : cases) {
+        fs::remove("r.map");
+        if (!before.empty())
+            PutFile("r.map", before);
+        AddTokenLine("r.map", u" MORE", u"More \u20AC");
+        EXPECT_EQ(FileBytes("r.map"), Utf16Bytes(after));
+    }
+}
+
+TEST(TokenEditing, ATokenIsRemovedByItsExactNameFromTheFilesOfItsBase) {
+    const TemporaryFolder folder;
+    const char kReference[] = "WebMail-default.net-tokens.map";
+    const std::u16string others =
+        u"\t\t\t[CV_A] \t2\r\n[CV_A]\t3\r\n\t\t\t[cv_a]\r\n\r\nshort\tline\r\n";
+    PutFile(kReference, Utf16Bytes(u"\t\t\t[CV_A]\t1\r\n" + others + u"\t\t\t[CV_A]"));
+    PutFile(std::string(kReference) + "D", "left over");
+    RemoveFromReferenceFile(kReference, u"[CV_A]");
+    EXPECT_EQ(FileBytes(kReference), Utf16Bytes(others));
+    EXPECT_EQ(FileBytes(std::string(kReference) + "D"), kNoFile);
+
+    const std::u16string kept = u"[CV_AB]\t1\r\n\r\nxx[CV_A]\t2\r\n";
+    const std::string before = Utf16Bytes(u"\uFEFF[CV_A]\t3\r\n" + kept + u"[CV_A]\t4\r\n");
+    for (const auto& [name, isOfBase] : {std::pair{"WebMail-default.net-tokens-fr.map", true},
+                                         {"webmail-DEFAULT.net-tokens-.map", true},
+                                         {"WebMail-default-tokens-fr.map", false},
+                                         {"WebMail-default.net-tokens-fr.map.old", false}}) {
+        PutFile(name, before);
+        RemoveFromLanguageFiles(folder / kReference, u"[CV_A]");
+        EXPECT_EQ(FileBytes(name), isOfBase ? Utf16Bytes(kept) : before) << name;
+    }
+}
+
+TEST(TokenMapFile, TokensAreListedWithTheirEnglishValues) {
+    const TemporaryFolder folder;
+    EXPECT_TRUE(ListTokens("none.map").empty());
+    PutFile("r.map",
+            Utf16Bytes(u"\t\t\t[CV_A]\tHello: you\tmore\r\n[CV_B]\tfirst field\n"
+                       u"\t\t\t[CV_C]\r\t\t\t\tno token\n\t\t\tother\n\t\t\tother\tvalue"));
+    EXPECT_EQ(ListTokens("r.map"), (std::vector<std::u16string>{u"[CV_A]: Hello: you", u"[CV_C]"}));
+    const TokenEntry entry = SplitTokenEntry(u" [CV_A] :  Hello : you");
+    EXPECT_EQ(entry.token, u"[CV_A]");
+    EXPECT_EQ(entry.value, u"Hello");
 }
 
 }  // namespace
