@@ -1,5 +1,4 @@
-// Composes one message with the files that the arguments name as its attachments and prints its
-// size in bytes.
+// Composes one message with the given files as attachments, and prints its size in bytes.
 #include <iostream>
 
 #include "mail/Message.h"

@@ -1,2 +1,2 @@
-// Does nothing: what starting and ending a program takes.
+// Does nothing: the time to start and end a process.
 int main() {}

@@ -1,5 +1,5 @@
-// The lower bound of "copy, then delete and write each page": copies the reference folder into the
-// language folder, then reads each page file of the copy, deletes it and writes its bytes anew.
+// Copies the reference folder into the language folder, then reads, deletes and creates each page
+// of the copy. The lower bound of a program that copies first and deletes pages to rewrite them.
 
 #include "yardstick.h"
 

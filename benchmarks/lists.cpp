@@ -1,6 +1,6 @@
-// lists ROUNDS: the time, in milliseconds, of filling the toolkit's list with the entries of the
-// main window's token list, and that of a click on a language in the window, until the entries are
-// seen and the window answers again.
+// lists ROUNDS: prints two lists of times in milliseconds. The first is for filling the toolkit's
+// list with the entries of the token list. The second is for a click on a language in the main
+// window, until the entries are visible and the window responds again.
 #include <wx/app.h>
 #include <wx/init.h>
 #include <wx/listbox.h>

@@ -1,5 +1,5 @@
-// Writes each file just once: reads it from the reference folder and writes it to the language
-// folder. What a procedure without the rewriting in place could reach.
+// Reads each file from the reference folder and writes it to the language folder, once. The lower
+// bound of a program that does not rewrite copies.
 
 #include "yardstick.h"
 

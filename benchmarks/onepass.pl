@@ -1,6 +1,6 @@
 #!/usr/bin/env perl
-# Copies the reference folder into the language folder and replaces the placeholders of the page
-# files on the way, in one pass: a hash and one regular expression.
+# Copies the reference folder into the language folder, and replaces the placeholders of the pages on the way, with a
+# hash and one regular expression.
 use strict;
 use warnings;
 

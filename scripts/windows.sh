@@ -1,15 +1,15 @@
 # shellcheck shell=bash
 # Read by the scripts that build for Windows or run the build under Wine.
 
-# Adds to `options` where CMake finds wxWidgets, which is built first if need be.
+# Adds the place of wxWidgets to `options`, for CMake. Builds wxWidgets first if it is missing.
 use_wxwidgets() {
     local folder
     folder=$(scripts/build-wxwidgets | tail -n 1)
     options+=(-D "wxWidgets_DIR=$folder/lib/cmake/wxWidgets")
 }
 
-# Lets Wine work in that folder, filled first if need be, and in a session of its own: one that somebody
-# started without a display could not show windows.
+# Prepares that folder for Wine, and starts a new session in it: a session that was started without a display
+# cannot show windows.
 use_wine() {
     export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
     [[ -d $WINEPREFIX ]] || fill_wine_prefix
@@ -19,7 +19,7 @@ use_wine() {
     fi
 }
 
-# Under another name at first, so that what an interruption leaves is not taken for whole.
+# Under another name first, so that an interrupted attempt is not used later.
 fill_wine_prefix() {
     local new=$WINEPREFIX.new
     rm -rf -- "$new"
