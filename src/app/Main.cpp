@@ -37,5 +37,6 @@ ExitStatus Run(std::u16string_view commandLine) {
 }  // namespace cvlang
 
 int main(int argc, char** argv) {
+    cvlang::KeepRunningOnFailedWrites();
     return static_cast<int>(cvlang::Run(cvlang::CommandLineText(argc, argv)));
 }

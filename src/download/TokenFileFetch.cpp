@@ -4,6 +4,7 @@
 
 #include "platform/FileSystem.h"
 #include "platform/Paths.h"
+#include "platform/ProcessLock.h"
 #include "translation/LanguageList.h"
 #include "translation/StorePaths.h"
 
@@ -81,8 +82,8 @@ bool DownloadTokenFile(Program& program, const DistributionServer& server,
         program.messages.Show({u"Could not access File for  from the Server. File=" + local});
         return false;
     }
-    RemoveFile(file);
-    if (!EntryExists(file))
+    const ProcessLock lock(file.parent_path());
+    if (RemoveFile(file))
         WriteFile(file, Content(body, bUnicode));
     return true;
 }

@@ -10,6 +10,7 @@
 #include "platform/FolderCopy.h"
 #include "platform/FolderListing.h"
 #include "platform/Paths.h"
+#include "platform/ProcessLock.h"
 #include "translation/LanguageList.h"
 #include "translation/TokenMapFile.h"
 
@@ -84,6 +85,7 @@ void TraceTokenUse(Program& program, const TextArray& arrTokens) {
 bool ApplyTranslation(Program& program, const Selection& selection) {
     program.progress->Expect(
         [&] { return CountSteps(FoldersOf(program.config, selection).reference); });
+    const ProcessLock lock(PathFromText(program.config.GetApplicationDirectory()));
     if (!PrepareLanguageFolder(program, selection, 1))
         return false;
     Utf16File mapFile;

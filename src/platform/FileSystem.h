@@ -60,16 +60,22 @@ class FileContent {
 FileStatus ReadFile(const Folder& folder, const std::filesystem::path& name, FileContent& content);
 FileStatus ReadFile(const std::filesystem::path& path, FileContent& content);
 
+/// Whether what was written has reached the disk when writing ends, so that it outlives a power
+/// cut.
+enum class Durability { Cached, OnDisk };
+
 /// Makes the bytes the file's whole content. False on failure, also for a read-only file; what the
 /// disk still took then stays.
-bool WriteFile(const std::filesystem::path& path, std::string_view bytes);
+bool WriteFile(const std::filesystem::path& path, std::string_view bytes,
+               Durability durability = Durability::Cached);
 
 /// Deletes a file that is not read-only and writes it anew. On Linux it is written over instead,
 /// which keeps its owner and permissions, where only the file itself changes by that. When it
 /// cannot be written there is no such file afterwards, unless it cannot be deleted either.
 void WriteFileAnew(const Folder& folder, const std::filesystem::path& name, std::string_view bytes);
 
-/// Writes at the end of a file, creating it when it is missing.
+/// Writes at the end of a file, creating it when it is missing. A read-only file stays as it is,
+/// for root too.
 std::error_code AppendToFile(const std::filesystem::path& path, std::string_view bytes);
 
 /// Whether a file or a folder of that name exists.

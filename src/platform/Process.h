@@ -11,6 +11,10 @@ namespace cvlang {
 /// set in double quotes.
 std::u16string CommandLineText(int argc, const char* const* argv);
 
+/// Lets a write beyond the file size that the user may have, or to a closed pipe, fail like one to
+/// a full disk. Linux would end the process.
+void KeepRunningOnFailedWrites();
+
 /// A variable of the environment; empty when it is not set.
 std::u16string EnvironmentText(const char* name);
 

@@ -4,6 +4,7 @@
 #include "platform/FileSystem.h"
 #include "platform/LetterCase.h"
 #include "platform/Paths.h"
+#include "platform/ProcessLock.h"
 #include "text/Lines.h"
 #include "text/Strings.h"
 #include "translation/StorePaths.h"
@@ -90,10 +91,6 @@ bool CreateLanguageList(const std::filesystem::path& file) {
     return WriteFile(FindExisting(file), Utf16ToAnsi(list));
 }
 
-void Refuse(Program& program, std::u16string text) {
-    program.messages.Show({std::move(text), u"Error", MessageButtons::Ok, MessageIcon::Critical});
-}
-
 bool IsSame(std::u16string_view a, std::u16string_view b) {
     return ToUpper(a) == ToUpper(b);
 }
@@ -123,6 +120,20 @@ std::string WithLanguage(std::string_view list, std::u16string_view name,
     return longer;
 }
 
+/// Returns the reason to refuse the language; empty when there is none.
+std::u16string AddToList(const std::filesystem::path& file, std::u16string_view name,
+                         std::u16string_view abbreviation, bool& added) {
+    const ProcessLock lock(file.parent_path());
+    FileContent content;
+    if (ReadFile(file, content) != FileStatus::Okay)
+        return u"Could not load language file " + TextFromPath(file);
+    const std::u16string_view reason =
+        ValidateNewLanguage(AnsiToUtf16(content.Bytes()), name, abbreviation);
+    added = reason.empty() &&
+            WriteFile(FindExisting(file), WithLanguage(content.Bytes(), name, abbreviation));
+    return std::u16string(reason);
+}
+
 }  // namespace
 
 std::u16string LanguageAbbreviation(const Configuration& config, const Selection& selection) {
@@ -150,19 +161,12 @@ std::vector<std::u16string> LoadLanguageList(const Configuration& config,
 
 bool AddLanguageToBase(Program& program, const Selection& selection, std::u16string_view name,
                        std::u16string_view abbreviation) {
-    const std::filesystem::path file = GetLanguageListFilePath(program.config, selection);
-    FileContent content;
-    if (ReadFile(file, content) != FileStatus::Okay) {
-        Refuse(program, u"Could not load language file " + TextFromPath(file));
-        return false;
-    }
-    const std::u16string_view reason =
-        ValidateNewLanguage(AnsiToUtf16(content.Bytes()), name, abbreviation);
-    if (!reason.empty()) {
-        Refuse(program, std::u16string(reason));
-        return false;
-    }
-    return WriteFile(FindExisting(file), WithLanguage(content.Bytes(), name, abbreviation));
+    bool added = false;
+    const std::u16string reason =
+        AddToList(GetLanguageListFilePath(program.config, selection), name, abbreviation, added);
+    if (!reason.empty())
+        program.messages.Show({reason, u"Error", MessageButtons::Ok, MessageIcon::Critical});
+    return added;
 }
 
 }  // namespace cvlang

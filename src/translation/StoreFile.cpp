@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/Paths.h"
+#include "platform/ProcessLock.h"
 #include "text/Lines.h"
 #include "text/Strings.h"
 
@@ -63,7 +64,7 @@ std::u16string_view Utf16File::Text() const {
 bool WriteUtf16File(const std::filesystem::path& path, std::u16string_view text) {
     std::u16string marked(1, kByteOrderMark);
     marked += text;
-    return WriteFile(path, BytesOf(marked));
+    return WriteFile(path, BytesOf(marked), Durability::OnDisk);
 }
 
 void AppendToUtf16File(const std::filesystem::path& path, std::u16string_view text) {
@@ -72,6 +73,7 @@ void AppendToUtf16File(const std::filesystem::path& path, std::u16string_view te
 
 void RewriteKeyedLine(const RewrittenFile& rewritten, std::u16string_view key,
                       std::u16string_view value, const Logs& logs) {
+    const ProcessLock lock(rewritten.file.parent_path());
     const std::filesystem::path file = FindExisting(rewritten.file);
     const Utf16File original(file);
     switch (original.Status()) {

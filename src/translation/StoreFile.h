@@ -29,7 +29,8 @@ class Utf16File {
     FileStatus status_ = FileStatus::NotFound;
 };
 
-/// Makes the text, behind a byte-order mark, the file's whole content. False on failure.
+/// Makes the text, behind a byte-order mark, the file's whole content, on the disk itself: the file
+/// that it takes the place of is deleted afterwards. False on failure.
 bool WriteUtf16File(const std::filesystem::path& path, std::u16string_view text);
 
 /// Writes the text at the end of an existing file. What cannot be written is lost.

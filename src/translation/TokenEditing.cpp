@@ -6,6 +6,7 @@
 #include "platform/FolderListing.h"
 #include "platform/LetterCase.h"
 #include "platform/Paths.h"
+#include "platform/ProcessLock.h"
 #include "text/Lines.h"
 #include "text/Strings.h"
 #include "translation/LanguageList.h"
@@ -34,6 +35,7 @@ std::u16string_view ReferenceFileToken(std::u16string_view line) {
 using TokenOfLine = std::u16string_view (*)(std::u16string_view line);
 
 void RemoveLines(const fs::path& mapFile, std::u16string_view token, TokenOfLine tokenOf) {
+    const ProcessLock lock(mapFile.parent_path());
     const fs::path file = FindExisting(mapFile);
     const Utf16File original(file);
     if (original.Status() != FileStatus::Okay)
@@ -75,6 +77,7 @@ void UpdateToken(const Program& program, const Selection& selection, std::u16str
 
 void AddTokenLine(const fs::path& referenceMapFile, std::u16string_view name,
                   std::u16string_view value) {
+    const ProcessLock lock(referenceMapFile.parent_path());
     const fs::path file = FindExisting(referenceMapFile);
     const Utf16File existing(file);
     if (existing.Status() == FileStatus::OtherError)

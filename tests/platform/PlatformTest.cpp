@@ -1,11 +1,15 @@
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <future>
 #include <random>
+#include <thread>
 
 #include "platform/Ansi.h"
 #include "platform/FileSystem.h"
 #include "platform/FolderCopy.h"
 #include "platform/Paths.h"
+#include "platform/ProcessLock.h"
 #include "support/Files.h"
 #include "text/Unicode.h"
 
@@ -31,12 +35,44 @@ TEST(FileSystem, AFolderCopiedOntoItselfChangesNoByteAndIntoItselfEnds) {
     EXPECT_FALSE(fs::exists(en / "fr" / "fr" / "fr"));
 }
 
+TEST(FileSystem, AReadOnlyFileStaysAsItIsForRootToo) {
+    const TemporaryFolder folder;
+    PutFile("f", "mine");
+    SetReadOnly("f", true);
+    EXPECT_FALSE(WriteFile("f", "x"));
+    EXPECT_TRUE(AppendToFile("f", "x"));
+    EXPECT_FALSE(RemoveFile("f"));
+    EXPECT_EQ(FileBytes("f"), "mine");
+}
+
+TEST(ProcessLock, IsWaitedForHoweverTheFolderIsSpelt) {
+    const TemporaryFolder folder;
+    std::filesystem::create_directory("Bin");
+    std::promise<void> locked;
+    std::atomic<bool> released = false;
+    std::thread other([&] {
+        const ProcessLock lock(folder / "Bin");
+        locked.set_value();
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        released = true;
+    });
+    locked.get_future().wait();
+    const ProcessLock lock(folder / "BIN");
+    EXPECT_TRUE(released);
+    other.join();
+    EXPECT_TRUE(std::filesystem::is_empty("Bin"));
+}
+
 TEST(Ansi, EveryByteSurvivesTheWayThereAndBackAndLookalikesReplaceNothing) {
     std::string all;
     for (int byte = 0; byte < 256; ++byte)
         all += static_cast<char>(byte);
     EXPECT_EQ(Utf16ToAnsi(AnsiToUtf16(all)), all);
-    EXPECT_EQ(AnsiToUtf16("\x80\xE9\x81"), u"\u20AC\u00E9\u0081");
+    EXPECT_EQ(
+        AnsiToUtf16(all.substr(0x80, 0x21)),
+        u"\u20AC\u0081\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160\u2039\u0152\u008D"
+        u"\u017D\u008F\u0090\u2018\u2019\u201C\u201D\u2022\u2013\u2014\u02DC\u2122\u0161\u203A"
+        u"\u0153\u009D\u017E\u0178\u00A0");
     EXPECT_EQ(Utf16ToAnsi(u"\u0141\u00E9\u0080\u3042"), "?\xE9??");
     EXPECT_EQ(Utf16ToAnsiExactly(u"[CV_TXT-\u00C9]"), "[CV_TXT-\xC9]");
     EXPECT_EQ(Utf16ToAnsiExactly(u"?"), "?");

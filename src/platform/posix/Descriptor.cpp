@@ -7,13 +7,16 @@
 namespace cvlang {
 
 bool Descriptor::Close() {
-    const bool closed = number_ < 0 || close(number_) == 0;
+    const bool closed = number_ < 0 || close(number_) == 0 || errno == EINTR;
     number_ = -1;
     return closed;
 }
 
 int Open(const Place& place, int flags, mode_t mode) {
-    return openat(place.directory, place.name, flags | O_CLOEXEC, mode);
+    // Not waiting: a pipe of that name would keep the program until somebody opens its other end.
+    constexpr int kAlways = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    return Uninterrupted(
+        [&] { return openat(place.directory, place.name, flags | kAlways, mode); });
 }
 
 bool Remove(const Place& place) {
@@ -21,18 +24,13 @@ bool Remove(const Place& place) {
 }
 
 ssize_t Read(const Descriptor& file, char* to, std::size_t size) {
-    ssize_t count = 0;
-    do {
-        count = read(file.Number(), to, size);
-    } while (count < 0 && errno == EINTR);
-    return count;
+    return Uninterrupted([&] { return read(file.Number(), to, size); });
 }
 
 bool WriteAll(const Descriptor& file, std::string_view bytes) {
     while (!bytes.empty()) {
-        const ssize_t written = write(file.Number(), bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR)
-            continue;
+        const ssize_t written =
+            Uninterrupted([&] { return write(file.Number(), bytes.data(), bytes.size()); });
         if (written <= 0)
             return false;
         bytes.remove_prefix(static_cast<std::size_t>(written));

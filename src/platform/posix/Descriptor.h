@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <sys/types.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <string_view>
 
@@ -40,13 +41,22 @@ struct Place {
 
 inline constexpr mode_t kNewFileMode = 0666;
 
+/// Repeats a call of the system until no signal interrupts it.
+template <typename Call>
+auto Uninterrupted(const Call& call) {
+    auto result = call();
+    while (result < 0 && errno == EINTR)
+        result = call();
+    return result;
+}
+
 /// A descriptor, or -1. The mode is that of a file that is created.
 int Open(const Place& place, int flags, mode_t mode = kNewFileMode);
 
 /// Deletes a file. False when it is still there afterwards.
 bool Remove(const Place& place);
 
-/// Reads up to `size` bytes; a negative number on failure. A signal does not end it.
+/// Reads up to `size` bytes, 0 at the end; a negative number on failure.
 ssize_t Read(const Descriptor& file, char* to, std::size_t size);
 
 bool WriteAll(const Descriptor& file, std::string_view bytes);

@@ -31,11 +31,10 @@ FileStatus StatusOfFailedOpen(const fs::path& folder) {
 }
 
 int OpenExisting(const Folder& folder, const fs::path& name) {
-    // Not waiting: a pipe of that name would keep the program until somebody writes to it.
-    const int exact = Open({folder, name}, O_RDONLY | O_NONBLOCK);
+    const int exact = Open({folder, name}, O_RDONLY);
     if (exact >= 0 || errno != ENOENT)
         return exact;
-    return Open(Place(FindExisting(folder.Path() / name)), O_RDONLY | O_NONBLOCK);
+    return Open(Place(FindExisting(folder.Path() / name)), O_RDONLY);
 }
 
 fs::path FolderOf(const fs::path& path) {
@@ -53,11 +52,16 @@ int OpenForWriting(const Place& place) {
     return Open(place, O_WRONLY | O_TRUNC);
 }
 
-bool Write(const Place& place, std::string_view bytes) {
+/// False when the disk fails; a file system that cannot do it is no failure.
+bool Flush(const Descriptor& file) {
+    return Uninterrupted([&] { return fsync(file.Number()); }) == 0 || errno == EINVAL;
+}
+
+bool Write(const Place& place, std::string_view bytes, Durability durability) {
     Descriptor file(OpenForWriting(place));
     if (!file.IsOpen())
         return false;
-    const bool written = WriteAll(file, bytes);
+    const bool written = WriteAll(file, bytes) && (durability == Durability::Cached || Flush(file));
     return file.Close() && written;
 }
 
@@ -94,8 +98,9 @@ FileStatus ReadFile(const Folder& folder, const fs::path& name, FileContent& con
     if (fstat(file.Number(), &status) != 0 || !S_ISREG(status.st_mode))
         return FileStatus::OtherError;
     content.hasAttributes_ = IsReadOnly(status);
-    // One byte more than expected: a shorter answer then says that this was all.
-    content.Reserve(static_cast<std::size_t>(status.st_size) + 1);
+    // One byte more than expected: reading exactly what was expected then says that this was all.
+    const auto expected = static_cast<std::size_t>(status.st_size);
+    content.Reserve(expected + 1);
     for (;;) {
         const std::size_t room = content.capacity_ - content.size_;
         const ssize_t count = Read(file, content.buffer_.get() + content.size_, room);
@@ -104,9 +109,10 @@ FileStatus ReadFile(const Folder& folder, const fs::path& name, FileContent& con
             return FileStatus::OtherError;
         }
         content.size_ += static_cast<std::size_t>(count);
-        if (static_cast<std::size_t>(count) < room)
+        if (count == 0 || content.size_ == expected)
             return FileStatus::Okay;
-        content.Reserve(content.capacity_ * 2);
+        if (content.size_ == content.capacity_)
+            content.Reserve(content.capacity_ * 2);
     }
 }
 
@@ -114,8 +120,8 @@ FileStatus ReadFile(const fs::path& path, FileContent& content) {
     return ReadFile(Folder(FindExisting(FolderOf(path))), path.filename(), content);
 }
 
-bool WriteFile(const fs::path& path, std::string_view bytes) {
-    return Write(Place(path), bytes);
+bool WriteFile(const fs::path& path, std::string_view bytes, Durability durability) {
+    return Write(Place(path), bytes, durability);
 }
 
 void WriteFileAnew(const Folder& folder, const fs::path& name, std::string_view bytes) {
@@ -123,12 +129,15 @@ void WriteFileAnew(const Folder& folder, const fs::path& name, std::string_view 
     if (WriteOver(place, bytes))
         return;
     Remove(place);
-    if (!Write(place, bytes))
+    if (!Write(place, bytes, Durability::Cached))
         Remove(place);
 }
 
 std::error_code AppendToFile(const fs::path& path, std::string_view bytes) {
     Descriptor file(Open(Place(path), O_WRONLY | O_CREAT | O_APPEND));
+    struct stat status {};
+    if (file.IsOpen() && fstat(file.Number(), &status) == 0 && IsReadOnly(status))
+        return std::make_error_code(std::errc::permission_denied);
     if (!file.IsOpen() || !WriteAll(file, bytes) || !file.Close())
         return LastError();
     return {};

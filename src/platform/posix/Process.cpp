@@ -1,5 +1,6 @@
 #include "platform/Process.h"
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
@@ -18,6 +19,11 @@ std::u16string CommandLineText(int argc, const char* const* argv) {
         line += quoted ? "\"" : "";
     }
     return Utf8ToUtf16(line);
+}
+
+void KeepRunningOnFailedWrites() {
+    for (const int signal : {SIGXFSZ, SIGPIPE})
+        std::signal(signal, SIG_IGN);
 }
 
 std::u16string EnvironmentText(const char* name) {

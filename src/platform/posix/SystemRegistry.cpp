@@ -2,11 +2,15 @@
 #include <filesystem>
 
 #include "platform/FileSystem.h"
+#include "platform/Paths.h"
 #include "platform/Registry.h"
 #include "platform/posix/RegistryExport.h"
 
 namespace cvlang {
 namespace {
+
+/// Larger files are no settings, and reading them would exhaust the memory.
+constexpr std::uintmax_t kLargestFile = 256U << 20;
 
 std::filesystem::path RegistryFile() {
     const char* named = std::getenv("CORVANE_REGISTRY");
@@ -26,7 +30,10 @@ class RegistryFromFile : public Registry {
   private:
     static RegistryValue Find(std::u16string_view key, std::u16string_view name) {
         FileContent file;
-        ReadFile(RegistryFile(), file);
+        std::error_code ignored;
+        const std::filesystem::path path = FindExisting(RegistryFile());
+        if (std::filesystem::file_size(path, ignored) <= kLargestFile)
+            ReadFile(path, file);
         return FindInRegistryExport(file.Bytes(), key, name);
     }
 };

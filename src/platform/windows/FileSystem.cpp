@@ -93,9 +93,10 @@ FileStatus ReadFile(const fs::path& path, FileContent& content) {
     return ReadFile(Folder(path.parent_path()), path.filename(), content);
 }
 
-bool WriteFile(const fs::path& path, std::string_view bytes) {
+bool WriteFile(const fs::path& path, std::string_view bytes, Durability durability) {
     const FileHandle file(path, GENERIC_WRITE, CREATE_ALWAYS);
-    return file.IsOpen() && WriteAll(file, bytes);
+    return file.IsOpen() && WriteAll(file, bytes) &&
+           (durability == Durability::Cached || FlushFileBuffers(file.Get()));
 }
 
 void WriteFileAnew(const Folder& folder, const fs::path& name, std::string_view bytes) {

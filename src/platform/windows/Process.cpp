@@ -23,6 +23,8 @@ std::u16string CommandLineText(int, const char* const*) {
     return {arguments.begin(), arguments.end()};
 }
 
+void KeepRunningOnFailedWrites() {}
+
 std::u16string EnvironmentText(const char* name) {
     const char* const text = std::getenv(name);
     return text == nullptr ? std::u16string() : AnsiToUtf16(text);

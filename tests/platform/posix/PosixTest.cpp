@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <regex>
 #include <vector>
@@ -7,6 +8,7 @@
 #include "platform/FileCopy.h"
 #include "platform/Paths.h"
 #include "platform/Process.h"
+#include "platform/Registry.h"
 #include "platform/posix/RegistryExport.h"
 #include "support/Files.h"
 #include "text/Unicode.h"
@@ -43,6 +45,21 @@ TEST(FileCopy, AFileOfTwoNamesIsReplacedUnderOneOfThem) {
                             CopiedAttributes::Kept));
     EXPECT_EQ(FileBytes(folder / "to" / "a"), "fresh");
     EXPECT_EQ(FileBytes(folder / "outside"), "untouched");
+}
+
+TEST(FileSystem, APipeIsNotWaitedForAndNeitherItNorALargeFileIsTheSettings) {
+    const TemporaryFolder folder;
+    ASSERT_EQ(mkfifo("pipe", 0666), 0);
+    FileContent content;
+    EXPECT_EQ(ReadFile("pipe", content), FileStatus::OtherError);
+    EXPECT_FALSE(WriteFile("pipe", "x"));
+    EXPECT_TRUE(AppendToFile("pipe", "x"));
+    PutFile("large", "[HKLM\\Key]\n\"Value\"=\"text\"\n");
+    for (const auto& [file, text] : {std::pair{"LARGE", u"text"}, {"pipe", u""}, {"large", u""}}) {
+        setenv("CORVANE_REGISTRY", file, 1);
+        EXPECT_EQ(SystemRegistry()->ReadString(u"Key", u"Value"), text) << file;
+        std::filesystem::resize_file("large", 1U << 30);
+    }
 }
 
 TEST(CommandLineText, IsRebuiltFromTheArguments) {

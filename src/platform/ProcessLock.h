@@ -1,0 +1,24 @@
+// Keeping two processes of this program from changing the same files at the same time.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+
+namespace cvlang {
+
+/// Held while the files of an installation are changed. It is advisory, creates no file, and is no
+/// condition: a process that waits for some seconds, or cannot lock at all, goes on without it. A
+/// process must not hold two at a time.
+class ProcessLock {
+  public:
+    /// Waits until no other process holds the lock of this folder.
+    explicit ProcessLock(const std::filesystem::path& folder);
+    ~ProcessLock();
+    ProcessLock(const ProcessLock&) = delete;
+    ProcessLock& operator=(const ProcessLock&) = delete;
+
+  private:
+    std::intptr_t handle_;  // a directory on Linux, a mutex on Windows
+};
+
+}  // namespace cvlang

@@ -1,0 +1,47 @@
+#include "platform/ProcessLock.h"
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+
+#include "platform/LetterCase.h"
+#include "platform/Paths.h"
+
+namespace cvlang {
+namespace {
+
+constexpr DWORD kPatienceInMilliseconds = 5000;
+
+/// One name for each folder, however it is spelt. Names may hold no backslash, and not many
+/// characters.
+std::wstring MutexName(const std::filesystem::path& folder) {
+    std::error_code ignored;
+    const auto path = std::filesystem::absolute(folder, ignored).lexically_normal();
+    const std::size_t hash = std::hash<std::u16string>()(ToUpper(TextFromPath(path)));
+    return L"Global\\CVLangTranslator-" + std::to_wstring(hash);
+}
+
+}  // namespace
+
+ProcessLock::ProcessLock(const std::filesystem::path& folder) {
+    // For the processes of all users: without a list of them nobody is refused.
+    SECURITY_DESCRIPTOR everybody{};
+    InitializeSecurityDescriptor(&everybody, SECURITY_DESCRIPTOR_REVISION);
+    SetSecurityDescriptorDacl(&everybody, TRUE, nullptr, FALSE);
+    SECURITY_ATTRIBUTES attributes{sizeof attributes, &everybody, FALSE};
+    const HANDLE mutex = CreateMutexW(&attributes, FALSE, MutexName(folder).c_str());
+    handle_ = reinterpret_cast<std::intptr_t>(mutex);
+    if (mutex != nullptr)
+        WaitForSingleObject(mutex, kPatienceInMilliseconds);
+}
+
+ProcessLock::~ProcessLock() {
+    const auto mutex = reinterpret_cast<HANDLE>(handle_);
+    if (mutex == nullptr)
+        return;
+    ReleaseMutex(mutex);  // fails when the wait was given up
+    CloseHandle(mutex);
+}
+
+}  // namespace cvlang
