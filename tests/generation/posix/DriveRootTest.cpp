@@ -1,0 +1,54 @@
+// Generation at the root of the drive, in a child process for which a folder of the test is the
+// root.
+#include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "generation/ContentTree.h"
+#include "support/FakeProgram.h"
+
+namespace cvlang {
+namespace {
+
+constexpr int kCannotChangeRoot = 77;
+
+/// Generates a language's pages of a base without a language root; the child's exit status.
+int GenerateAtRoot(const char16_t* language) {
+    const pid_t child = fork();
+    if (child == 0) {
+        if (geteuid() != 0 && unshare(CLONE_NEWUSER) != 0)
+            _exit(kCannotChangeRoot);
+        if (chroot(".") != 0)
+            _exit(kCannotChangeRoot);
+        FakeRegistry registry;
+        registry.numbers[u"Authoring Version"] = 2;
+        const Configuration config(registry);
+        Logs logs;
+        RecordingMessages messages;
+        Program program{config, logs, messages};
+        _exit(ApplyTranslation(program, u"WebMail", u"classic", language) ? 0 : 1);
+    }
+    int status = -1;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST(DriveRoot, IsTheLanguageRootOfAnUnknownBaseAndLeftAloneForAnUnknownLanguage) {
+    const TemporaryFolder drive;
+    PutFile("page.asp", "page");
+    PutFile("SYS/page.asp", "reference");
+    const int status = GenerateAtRoot(u"Klingon");
+    if (status == kCannotChangeRoot)
+        GTEST_SKIP() << "this process may not change its root folder";
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(FileBytes("page.asp"), "page");
+    EXPECT_EQ(FileBytes("SYS/page.asp"), "reference");
+
+    EXPECT_EQ(GenerateAtRoot(u"French"), 0);
+    EXPECT_EQ(FileBytes("fr/page.asp"), "\xEF\xBB\xBFreference");
+    EXPECT_EQ(FileBytes("page.asp"), "page");
+}
+
+}  // namespace
+}  // namespace cvlang
