@@ -7,7 +7,7 @@
 namespace cvlang {
 namespace {
 
-TEST(Configuration, EveryCallReadsAnewAndWhatIsMissingOrFailsReadsAsItsDefault) {
+TEST(Configuration, EveryCallReadsTheRegistryAndMissingValuesReadAsDefaults) {
     FakeRegistry registry;
     const Configuration config(registry);
     for (const std::u16string text : {u"", u"first", u"second"}) {
@@ -37,7 +37,7 @@ TEST(Configuration, EveryCallReadsAnewAndWhatIsMissingOrFailsReadsAsItsDefault) 
     EXPECT_FALSE(config.IsDebugMode());
 }
 
-TEST(Logs, GrowLineByLineAndTellWhenTheErrorLogCannotBeWritten) {
+TEST(Logs, AppendOneLineEachAndReportAnErrorLogThatCannotBeWritten) {
     FakeProgram fake;
     const std::string start = Utf16ToAnsi(FormatDateAndTime(FakeProgram::FixedClock())) + "\t";
     std::filesystem::create_directory("trace");
@@ -52,7 +52,7 @@ TEST(Logs, GrowLineByLineAndTellWhenTheErrorLogCannotBeWritten) {
     EXPECT_TRUE(fake.logs.LogTranslationEvent(u"lost"));
 }
 
-TEST(TextHelpers, SplitFieldTakesTheFieldOfThatNumberOrNothing) {
+TEST(TextHelpers, SplitFieldReturnsTheNthFieldOrNothing) {
     const std::tuple<std::u16string, std::u16string, int, std::u16string> cases[] = {
         {u"a\tb\tc", u"\t", 1, u"a"}, {u"a\tb\tc", u"\t", 3, u"c"}, {u"a\tb\tc", u"\t", 4, u""},
         {u"a\tb\tc", u"\t", 0, u""},  {u"a\tb\tc", u"\t", -1, u""}, {u"\t\t\tt\tv", u"\t", 4, u"t"},
@@ -61,7 +61,7 @@ TEST(TextHelpers, SplitFieldTakesTheFieldOfThatNumberOrNothing) {
         EXPECT_EQ(SplitField(text, delimiter, n), field);
 }
 
-TEST(TextHelpers, CountFieldsStopsAtFiftyAndGetStringBetweenNeedsBothMarkersInOrder) {
+TEST(TextHelpers, CountFieldsStopsAtFiftyAndGetStringBetweenNeedsBothMarkers) {
     for (const auto& [size, fields] : {std::pair{0U, 1}, {2U, 3}, {48U, 49}, {60U, 50}})
         EXPECT_EQ(CountFields(std::u16string(size, u';'), u";"), fields);
     EXPECT_EQ(GetStringBetween(u"</a><a>y</a>", u"<a>", u"</a>"), u"y");

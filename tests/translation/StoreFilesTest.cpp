@@ -75,7 +75,7 @@ std::u16string Abbreviation(const FakeProgram& fake, std::u16string_view languag
     return GetLanguageAbbreviation(fake.config, u"WebMail", std::u16string(language), u"default");
 }
 
-TEST(LanguageTable, TheBuiltInAbbreviationsServeUntilAListFileIsCreated) {
+TEST(LanguageList, BuiltInAbbreviationsAreUsedUntilAListFileExists) {
     FakeProgram fake;
     constexpr std::u16string_view kInBothTables =
         u"Chinese\tzh\r\nDanish\tdk\r\nEnglish\ten\r\nFrench\tfr\r\nGerman\tde\r\n"
@@ -102,7 +102,7 @@ TEST(LanguageTable, TheBuiltInAbbreviationsServeUntilAListFileIsCreated) {
 
 constexpr char kFrench[] = "WebMail-default-tokens-fr.map";
 
-TEST(TokenMapFile, LinesAreLoadedAtTheirNumbersAndTheFirstWithExactlyTheTokenIsFound) {
+TEST(TokenMapFile, EachLineIsLoadedAtItsNumberAndTheFirstExactTokenIsFound) {
     using Texts = TextArray;
     FakeProgram fake;
     fake.program.CurrentApplication = u"WebMail";
