@@ -1,5 +1,8 @@
+#include <exception>
+
 #include "app/CommandLine.h"
 #include "app/WindowMode.h"
+#include "platform/Ansi.h"
 #include "platform/Process.h"
 
 namespace cvlang {
@@ -15,7 +18,6 @@ class CommandLineMessages : public StandardErrorMessages {
 };
 
 ExitStatus Run(std::u16string_view commandLine) {
-    DisableSystemErrorBoxes();
     const auto registry = SystemRegistry();
     const Configuration config(*registry);
     Logs logs;
@@ -27,8 +29,9 @@ ExitStatus Run(std::u16string_view commandLine) {
     const ExitStatus status =
         WindowsCanBeSeen() ? ShowMainWindow(config, logs) : ExitStatus::NoWindow;
     if (status == ExitStatus::NoWindow) {
-        WriteErrorLine(u"CVLangTranslator cannot open its window here.");
-        WriteUsage();
+        WriteErrorLine(
+            u"CVLangTranslator cannot open its window here. Without one it generates a language's "
+            u"pages: CVLangTranslator APPLICATION BASE LANGUAGE");
     }
     return status;
 }
@@ -38,5 +41,11 @@ ExitStatus Run(std::u16string_view commandLine) {
 
 int main(int argc, char** argv) {
     cvlang::KeepRunningOnFailedWrites();
-    return static_cast<int>(cvlang::Run(cvlang::CommandLineText(argc, argv)));
+    try {
+        return static_cast<int>(cvlang::Run(cvlang::CommandLineText(argc, argv)));
+    } catch (const std::exception& error) {
+        // The caller goes on after any run.
+        cvlang::WriteErrorLine(cvlang::AnsiToUtf16(error.what()));
+        return static_cast<int>(cvlang::ExitStatus::Done);
+    }
 }

@@ -1,14 +1,16 @@
 #!/usr/bin/env python3
-"""run.py PROGRAM UPDATE SHIM LAYOUT: lets every call for a file fail in turn, and looks at what is left."""
+"""run.py PROGRAM CHANGE SHIM LAYOUT: lets every call for a file fail in turn, and checks the files that are left."""
 import pathlib
+import resource
 import shutil
 import signal
 import subprocess
 import sys
 import tempfile
 
-PROGRAM, UPDATE, SHIM, LAYOUT = sys.argv[1:]
+PROGRAM, CHANGE, SHIM, LAYOUT = sys.argv[1:]
 LANG, MAP = "Bin/NETWebMail/default/lang/", "Bin/WebMail-default.net-tokens-fr.map"
+HARMLESS = "short", "interrupted"
 MEMORY = "/dev/shm" if pathlib.Path("/dev/shm").is_dir() else None
 work = pathlib.Path(tempfile.mkdtemp(prefix="cvlang-faults-", dir=MEMORY))
 fresh, again, no_map, used, outside = (work / n for n in ("fresh", "again", "no-map", "used", "outside"))
@@ -18,13 +20,13 @@ def contents(folder):
     return {str(f.relative_to(folder)): f.read_bytes() for f in folder.rglob("*") if f.is_file()}
 
 
-def run(before, command, kind="", at=0):
-    """The files afterwards, and whether the fault came to pass."""
+def run(before, command, kind="", at=0, **options):
+    """The files afterwards, and whether the fault happened."""
     for folder in used, outside:
         shutil.rmtree(folder, ignore_errors=True)
     shutil.copytree(before, used)
     outside.mkdir()
-    status = subprocess.run(command, cwd=outside, stderr=subprocess.DEVNULL, timeout=60, env={
+    status = subprocess.run(command, cwd=outside, stderr=subprocess.DEVNULL, timeout=60, **options, env={
         "LD_PRELOAD": SHIM, "CORVANE_REGISTRY": str(used / "registry.reg"), "FAULT_AT": str(at),
         "FAULT_KIND": kind, "FAULT_TOLD": str(outside / "told")}).returncode
     came = (outside / "told").exists()
@@ -32,18 +34,26 @@ def run(before, command, kind="", at=0):
     return contents(used), came
 
 
+def verify(holds, old, new, *where):
+    """Names the files that are not as they were, before they are cleaned up."""
+    for name in [] if holds else sorted(name for name in old.keys() | new.keys() if old.get(name) != new.get(name)):
+        print(name, "was", repr(old.get(name))[:300], "and is", repr(new.get(name))[:300], sep="\n  ")
+    assert holds, where
+
+
 def every_fault(before, command, check):
-    runs = 0
-    for kind in "fail", "gone", "denied", "full", "kill":
+    runs, done = 0, run(before, command)[0]
+    for kind in "fail", "gone", "denied", "full", "kill", "memory", *HARMLESS:
         at, came = 1, True
         while came:
             new, came = run(before, command, kind, at)
-            assert check(contents(before), new, kind), (command, kind, at)
+            old = done if kind in HARMLESS else contents(before)
+            verify(old == new if kind in HARMLESS else check(dict(old), dict(new), done, kind), old, new, command, kind, at)
             at, runs = at + 1, runs + came
     return runs
 
 
-def check_pages(old, new, kind):
+def check_pages(old, new, _, kind):
     pages = {name for name in old.keys() | new.keys() if name.startswith(LANG + "fr/")}
     half = [name for name in pages if new.get(name) not in (
         None, old.get(name), old.get(name.replace("/fr/", "/SYS/")), translated.get(name), untranslated.get(name))]
@@ -51,13 +61,27 @@ def check_pages(old, new, kind):
     return others and len(half) <= (kind == "kill")
 
 
-def check_update(old, new, kind):
+def check_update(old, new, done, _):
     temporary = MAP.replace("-tokens", "-_tokens")
     state = new.pop(MAP, None), new.pop(temporary, None)
-    before = old.pop(MAP, None)
+    before, updated = old.pop(MAP, None), done[MAP]
     cut = [text for text in state if text not in (None, before, updated)]  # the disk was full
     return old == new and all(updated.startswith(text) for text in cut) and (cut or state in (
         (updated, None), (before, None), (before, updated), (None, updated), (None, None)))
+
+
+def check_removal(old, new, done, _):
+    """Each map file is as before, maybe with a copy beside it, or done, or its copy is complete."""
+    copies = {name[:-1]: new[name] for name in new.keys() - old.keys()}
+    return copies.keys() <= old.keys() and all(
+        done[name].startswith(copies.get(name, b"")) and new.get(name) in (old[name], done[name])
+        or copies.get(name) == done[name] and name not in new for name in old)
+
+
+def check_growth(old, new, done, _):
+    """At most the one file that grows is cut off."""
+    return old.keys() == new.keys() and all(
+        new[name] == old[name] or done[name] != old[name] and done[name].startswith(new[name]) for name in old)
 
 
 try:
@@ -74,10 +98,13 @@ try:
     shutil.copytree(fresh, no_map)
     (no_map / MAP).unlink()
     untranslated, _ = run(no_map, generate)
+    limited, _ = run(fresh, generate, preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (300, 300)))
+    verify(limited != translated and check_pages(contents(fresh), limited, None, "full"), contents(fresh), limited, "ulimit")
     runs = every_fault(fresh, generate, check_pages) + every_fault(again, generate, check_pages)
     for before in fresh, no_map:
-        updated = run(before, [UPDATE, used / "Bin"])[0][MAP]
-        runs += every_fault(before, [UPDATE, used / "Bin"], check_update)
+        runs += every_fault(before, [CHANGE, used / "Bin", "update"], check_update)
+    for name, check in ("add", check_growth), ("remove", check_removal), ("language", check_growth):
+        runs += every_fault(fresh, [CHANGE, used / "Bin", name], check)
     print(runs, "faults")
 finally:
     shutil.rmtree(work)

@@ -1,15 +1,21 @@
 #include "platform/posix/DirectoryEntries.h"
 
+#include <dirent.h>
+
+#include <memory>
+
 #include "platform/LetterCase.h"
 #include "text/Unicode.h"
 
 namespace cvlang {
 
 DirectoryEntries::DirectoryEntries(const std::filesystem::path& folder) {
-    std::error_code ignored;
-    std::filesystem::directory_iterator entry(folder, ignored);
-    for (; entry != std::filesystem::directory_iterator(); entry.increment(ignored))
-        names_.insert(entry->path().filename().native());
+    // Not directory_iterator, which ends the program when memory runs out.
+    const std::unique_ptr<DIR, int (*)(DIR*)> open(opendir(folder.c_str()), closedir);
+    if (open == nullptr)
+        return;
+    while (const dirent* entry = readdir(open.get()))
+        names_.insert(entry->d_name);
 }
 
 std::optional<std::string> DirectoryEntries::Find(const std::string& name) const {
