@@ -4,14 +4,14 @@
 #include <string>
 #include <vector>
 
-#include "generation/LanguageFolders.h"
 #include "platform/Ansi.h"
 #include "platform/FileSystem.h"
 #include "platform/FolderCopy.h"
 #include "platform/FolderListing.h"
 #include "platform/Paths.h"
 #include "platform/ProcessLock.h"
-#include "translation/LanguageList.h"
+#include "text/AsciiCase.h"
+#include "translation/StorePaths.h"
 #include "translation/TokenMapFile.h"
 
 namespace cvlang {
@@ -19,42 +19,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Names of files that are pages end so, in any case.
-constexpr std::string_view kPageEndings[] = {".ASP", ".ASCX", ".ASPX", ".JS", ".XML"};
-
-bool EndsWith(const fs::path::string_type& name, std::string_view upperEnding) {
-    return name.size() >= upperEnding.size() &&
-           std::equal(upperEnding.rbegin(), upperEnding.rend(), name.rbegin(),
-                      [](char e, auto c) { return c == e || (e >= 'A' && c == e - 'A' + 'a'); });
-}
-
 bool IsPage(const fs::path& name) {
-    return std::any_of(
-        std::begin(kPageEndings), std::end(kPageEndings),
-        [&name](std::string_view ending) { return EndsWith(name.native(), ending); });
+    constexpr std::string_view kEndings[] = {".asp", ".ascx", ".aspx", ".js", ".xml"};
+    return std::any_of(std::begin(kEndings), std::end(kEndings), [&](std::string_view ending) {
+        return EndsWithIgnoringCase(name.native(), ending);
+    });
 }
 
-struct ContentFolders {
-    fs::path reference;
-    fs::path language;
-    /// Without a language root and an abbreviation the language's folder would be the root of the
-    /// drive, and every page on it would be rewritten. Nothing is done then.
-    bool areTheDrive = false;
-};
-
-ContentFolders FoldersOf(const Configuration& config, const Selection& selection) {
-    const std::u16string root = GetLanguageRoot(config, selection);
-    const std::u16string abbreviation = LanguageAbbreviation(config, selection);
-    const fs::path reference = PathFromText(JoinedPath({root, GetReferenceLanguageCode(config)}));
-    const fs::path folder = PathFromText(JoinedPath({root, abbreviation}));
-    // Without a root the folders are those at the root of the drive, by exactly these names: Linux
-    // has a /sys there.
-    if (root.empty())
-        return {reference, folder, abbreviation.empty()};
-    return {FindExisting(reference), FindExisting(folder), false};
-}
-
-/// What is to do for a folder: each file is copied, and each page is translated then.
+/// The progress steps of a folder: one for each file that is copied, one more for each page.
 std::size_t CountSteps(const fs::path& folder) {
     const FolderListing listing = ListFolder(folder);
     std::size_t steps = listing.files.size();
@@ -80,37 +52,99 @@ void TraceTokenUse(Program& program, const TextArray& arrTokens) {
     }
 }
 
+/// Whether pages can be translated while they are copied, with the same result as translating them
+/// after everything was copied. They cannot where something is read again after it was written.
+class OnePassCheck {
+  public:
+    OnePassCheck(const LanguageFolders& folders, bool languageIsNew)
+        : folders_(folders),
+          languageIsNew_(languageIsNew),
+          code_(PathFromText(folders.referenceCode)),
+          language_(RealPath(folders.language)) {}
+
+    bool Passes() const {
+        const fs::path reference = RealPath(folders_.reference);
+        const fs::path& path = folders_.language;
+        return !IsWithin(reference, language_) && !IsWithin(language_, reference) &&
+               std::find(path.begin(), path.end(), code_) == path.end() &&
+               IsPlain(folders_.reference, true) && (languageIsNew_ || IsPlain(path, false));
+    }
+
+  private:
+    bool IsPlain(const fs::path& folder, bool isReference) const {
+        const FolderListing listing = ListFolder(folder);
+        // What lies behind links is not examined. Names that differ only in case may be copied to
+        // the same file.
+        if (isReference &&
+            (!listing.linkedFolders.empty() || (!languageIsNew_ && HasAlikeNames(listing))))
+            return false;
+        for (const fs::path& name : listing.linkedFiles) {
+            if (IsWithin(RealPath(folder / name), language_))
+                return false;
+        }
+        // Pages below a folder of the reference folder's name are written to another folder.
+        return std::all_of(listing.folders.begin(), listing.folders.end(),
+                           [&](const fs::path& name) {
+                               return name != code_ && IsPlain(folder / name, isReference);
+                           });
+    }
+
+    const LanguageFolders& folders_;
+    bool languageIsNew_;
+    fs::path code_;
+    fs::path language_;
+};
+
+/// Copies the reference folder and translates its pages: on their way where that comes to the same,
+/// otherwise where they lie then, as all other pages of the language's folder.
+void GeneratePages(Program& program, const LanguageFolders& folders, PageTranslator& pages) {
+    const bool isNew = CreateFolder(folders.language);
+    const bool inOnePass = OnePassCheck(folders, isNew).Passes();
+    bool isComplete = isNew;
+    CopyFolder(folders.reference, folders.language, isNew, [&](const CopiedFile& file) {
+        const bool isPage = IsPage(file.target.name);
+        if (!inOnePass || !isPage || !pages.TranslateCopy(file)) {
+            CopyOneFile(file);
+            isComplete = isComplete && !isPage;
+        }
+        program.progress->Step();
+    });
+    if (!isComplete)
+        TranslateFolder(folders.language, pages, true);
+}
+
 }  // namespace
 
 bool ApplyTranslation(Program& program, const Selection& selection) {
-    program.progress->Expect(
-        [&] { return CountSteps(FoldersOf(program.config, selection).reference); });
-    const ProcessLock lock(PathFromText(program.config.GetApplicationDirectory()));
-    if (!PrepareLanguageFolder(program, selection, 1))
-        return false;
+    const LanguageFolders folders = FindLanguageFolders(program.config, selection);
+    program.progress->Expect([&] { return CountSteps(folders.reference); });
+    const std::u16string directory = program.config.GetApplicationDirectory();
+    const ProcessLock lock(PathFromText(directory));
     Utf16File mapFile;
     TextArray arrTokens(1);
     TextArray arrValues(1);
-    LoadLanguageTokensIntoArrays(program.config, selection, mapFile, arrTokens, arrValues);
-    PageTranslator pages(program, selection, arrTokens, arrValues);
-    const ContentFolders folders = FoldersOf(program.config, selection);
-    if (!folders.areTheDrive)
-        TranslateFolder(folders.language, pages, true);
+    LoadTokens(
+        LanguageMapFile(directory, selection, folders.abbreviation, folders.authoringVersion),
+        mapFile, arrTokens, arrValues);
+    PageTranslator pages(program, folders, arrTokens, arrValues);
+    if (folders.areUsable)
+        GeneratePages(program, folders, pages);
     if (program.config.IsDebugMode())
         TraceTokenUse(program, arrTokens);
     return true;
 }
 
 bool PrepareLanguageFolder(Program& program, const Selection& selection, int iNoPrompt) {
-    const ContentFolders folders = FoldersOf(program.config, selection);
-    if (folders.areTheDrive)
+    const LanguageFolders folders = FindLanguageFolders(program.config, selection);
+    if (!folders.areUsable)
         return true;
-    const bool existed = !CreateFolder(folders.language);
-    if (iNoPrompt == 0 && !program.unattended && existed && !MayOverwrite(program))
+    const bool isNew = CreateFolder(folders.language);
+    if (iNoPrompt == 0 && !program.unattended && !isNew && !MayOverwrite(program))
         return false;
-    const auto step = [&program] { program.progress->Step(); };
-    CopyFilesOf(folders.reference, folders.language, CopiedAttributes::Archive, step);
-    CopyFoldersOf(folders.reference, folders.language, step);
+    CopyFolder(folders.reference, folders.language, isNew, [&](const CopiedFile& file) {
+        CopyOneFile(file);
+        program.progress->Step();
+    });
     return true;
 }
 
@@ -122,7 +156,7 @@ void TranslateFolder(const fs::path& sFolderPath, PageTranslator& pages, bool bR
     }
     const Folder folder(sFolderPath);
     for (const fs::path& name : listing.files) {
-        if (IsPage(name) && !pages.HasCreated(folder, name))
+        if (IsPage(name) && !pages.IsTranslated(folder, name))
             pages.TranslateFile(folder, name, true);
     }
 }

@@ -1,7 +1,9 @@
 #include "generation/LanguageFolders.h"
 
+#include "platform/FolderListing.h"
 #include "platform/LetterCase.h"
 #include "platform/Paths.h"
+#include "translation/LanguageList.h"
 #include "translation/StorePaths.h"
 
 namespace cvlang {
@@ -20,6 +22,10 @@ constexpr NetBase kNetBases[] = {
     {u"ZEPHRA.NET", u"Zephra", u"Zephra"},
     {u"KESTO.NET", u"Kesto", u"Kesto"},
 };
+
+std::u16string ReferenceCode(std::int32_t authoringVersion) {
+    return authoringVersion >= kNewNamesVersion ? u"SYS" : u"EN";
+}
 
 }  // namespace
 
@@ -44,7 +50,30 @@ std::u16string GetLanguageRoot(const Configuration& config, const Selection& sel
 }
 
 std::u16string GetReferenceLanguageCode(const Configuration& config) {
-    return config.GetAuthoringVersion() >= kNewNamesVersion ? u"SYS" : u"EN";
+    return ReferenceCode(config.GetAuthoringVersion());
+}
+
+LanguageFolders FindLanguageFolders(const Configuration& config, const Selection& selection) {
+    const std::u16string root = GetLanguageRoot(config, selection);
+    LanguageFolders folders;
+    folders.authoringVersion = config.GetAuthoringVersion();
+    folders.referenceCode = ReferenceCode(folders.authoringVersion);
+    folders.abbreviation = LanguageAbbreviation(config, selection);
+    folders.reference = PathFromText(JoinedPath({root, folders.referenceCode}));
+    folders.language = PathFromText(JoinedPath({root, folders.abbreviation}));
+    folders.areUsable = !root.empty() || !folders.abbreviation.empty();
+    // Without a root the folders are those at the root of the drive, by exactly these names: Linux
+    // has a /sys there.
+    if (root.empty())
+        return folders;
+    folders.reference = FindExisting(folders.reference);
+    const std::filesystem::path found = FindExisting(folders.language);
+    // "en" must not find the reference folder "EN".
+    folders.language = IsSameFolder(found, folders.reference)
+                           ? found.parent_path() / folders.language.filename()
+                           : found;
+    folders.areUsable = !IsSameFolder(folders.language, folders.reference);
+    return folders;
 }
 
 }  // namespace cvlang

@@ -2,10 +2,9 @@
 
 #include <new>
 
-#include "generation/LanguageFolders.h"
 #include "platform/LetterCase.h"
 #include "platform/Paths.h"
-#include "translation/LanguageList.h"
+#include "text/AsciiCase.h"
 
 namespace cvlang {
 namespace {
@@ -23,28 +22,19 @@ std::vector<std::int32_t>& UseCountsFor(Program& program, std::size_t size) {
     return program.tokenUseCounts;
 }
 
-bool IsScriptFile(const fs::path& path) {
-    const fs::path::string_type& text = path.native();
-    const auto equals = [&text](std::size_t fromEnd, char lower) {
-        const auto c = text[text.size() - fromEnd];
-        return c == lower || c == lower - 'a' + 'A';
-    };
-    return text.size() >= 3 && text[text.size() - 3] == '.' && equals(2, 'j') && equals(1, 's');
-}
-
 ScriptMode ScriptModeOf(const fs::path& path, bool scriptAware) {
     if (!scriptAware)
         return ScriptMode::Ignored;
-    return IsScriptFile(path) ? ScriptMode::Always : ScriptMode::Tracked;
+    return EndsWithIgnoringCase(path.native(), ".js") ? ScriptMode::Always : ScriptMode::Tracked;
 }
 
 }  // namespace
 
-PageTranslator::PageTranslator(Program& program, const Selection& selection,
+PageTranslator::PageTranslator(Program& program, const LanguageFolders& folders,
                                const TextArray& arrTokens, const TextArray& arrValues)
     : program_(program),
-      referencePart_(FolderPart(GetReferenceLanguageCode(program.config))),
-      languagePart_(FolderPart(ToUpper(LanguageAbbreviation(program.config, selection)))),
+      referencePart_(FolderPart(folders.referenceCode)),
+      languagePart_(FolderPart(ToUpper(folders.abbreviation))),
       tokens_(arrTokens, arrValues),
       substitution_(tokens_, UseCountsFor(program, arrTokens.size())) {}
 
@@ -57,32 +47,60 @@ void PageTranslator::TranslateFile(const Folder& folder, const fs::path& name, b
     program_.progress->Step();
     try {
         if (ReadFile(folder, name, source_) == FileStatus::Okay) {
-            RewriteFile(folder, name, bScriptAware);
+            if (Substitute(name, bScriptAware))
+                RewriteFile(folder, name);
             return;
         }
     } catch (const std::bad_alloc&) {
         // A page too large for this machine is one that cannot be read.
-        source_ = {};
-        page_ = {};
-        substitution_.ReleaseMemory();
+        ReleaseMemory();
     }
     // A log that cannot be written must not keep the other pages from being translated.
     [[maybe_unused]] const auto ignored = program_.logs.LogTranslationEvent(
         u"Error - could not find asp source: " + TextFromPath(folder.Path() / name));
 }
 
-void PageTranslator::RewriteFile(const Folder& folder, const fs::path& name, bool bScriptAware) {
+bool PageTranslator::TranslateCopy(const CopiedFile& file) {
+    try {
+        if (ReadFile(file.from, file.name, source_) != FileStatus::Okay ||
+            !Substitute(file.target.name, true) || !WritePage(file, PageBytes(), source_))
+            return false;
+    } catch (const std::bad_alloc&) {
+        ReleaseMemory();
+        return false;
+    }
+    copies_.insert((file.to.Path() / file.target.name).native());
+    program_.progress->Step();
+    return true;
+}
+
+bool PageTranslator::IsTranslated(const Folder& folder, const fs::path& name) const {
+    if (copies_.empty() && created_.empty())
+        return false;
+    const fs::path path = folder.Path() / name;
+    return copies_.count(path.native()) != 0 ||
+           (!created_.empty() && created_.count(path.lexically_normal()) != 0);
+}
+
+bool PageTranslator::Substitute(const fs::path& name, bool bScriptAware) {
     page_.Truncate(0);
     page_.Append(kUtf8ByteOrderMark);
-    if (!substitution_.Translate(source_.Bytes(), ScriptModeOf(name, bScriptAware), page_))
-        return;
-    if (source_.HasAttributes())
-        ResetAttributes(folder.Path() / name);
+    return substitution_.Translate(source_.Bytes(), ScriptModeOf(name, bScriptAware), page_);
+}
+
+void PageTranslator::ReleaseMemory() {
+    source_ = {};
+    page_ = {};
+    substitution_.ReleaseMemory();
+}
+
+void PageTranslator::RewriteFile(const Folder& folder, const fs::path& name) {
     const fs::path destination = DestinationOf(folder);
     if (!destination.empty()) {
         WriteElsewhere(FindExisting(destination / name));
     } else {
-        WriteFileAnew(folder, name, PageBytes());
+        WritePage({folder, name, folder, {name, true}, CopiedAttributes::Archive}, PageBytes(),
+                  source_);
     }
 }
 
@@ -96,12 +114,13 @@ std::string_view PageTranslator::PageBytes() const {
 
 void PageTranslator::WriteElsewhere(const fs::path& destination) {
     const bool isNew = !EntryExists(destination);
-    RemoveFile(destination);
-    if (!WriteFile(destination, PageBytes())) {
-        RemoveFile(destination);
-    } else if (isNew) {
+    const Folder folder(destination.parent_path());
+    const fs::path name = destination.filename();
+    if (RemoveFile(destination) &&
+        WritePage({folder, name, folder, {name, false}, CopiedAttributes::Archive}, PageBytes(),
+                  source_) &&
+        isNew)
         created_.insert(destination.lexically_normal());
-    }
 }
 
 /// The folder that mirrors this one in the language's folder; empty when it lies there already.

@@ -4,12 +4,13 @@
 #include <filesystem>
 #include <set>
 #include <string_view>
-#include <vector>
+#include <unordered_set>
 
+#include "generation/LanguageFolders.h"
 #include "generation/PageText.h"
 #include "generation/PlaceholderSubstitution.h"
 #include "generation/TokenIndex.h"
-#include "platform/FileSystem.h"
+#include "platform/FileCopy.h"
 #include "run/Program.h"
 
 namespace cvlang {
@@ -17,8 +18,8 @@ namespace cvlang {
 /// What the pages of one run share.
 class PageTranslator {
   public:
-    /// The arrays are those of LoadLanguageTokensIntoArrays.
-    PageTranslator(Program& program, const Selection& selection, const TextArray& arrTokens,
+    /// The arrays are those of LoadTokens.
+    PageTranslator(Program& program, const LanguageFolders& folders, const TextArray& arrTokens,
                    const TextArray& arrValues);
     PageTranslator(const PageTranslator&) = delete;
     PageTranslator& operator=(const PageTranslator&) = delete;
@@ -31,13 +32,18 @@ class PageTranslator {
     /// The same for a file of a folder.
     void TranslateFile(const Folder& folder, const std::filesystem::path& name, bool bScriptAware);
 
-    /// Whether this object wrote that file in the place of none. It is translated already.
-    bool HasCreated(const Folder& folder, const std::filesystem::path& name) const {
-        return !created_.empty() && created_.count((folder.Path() / name).lexically_normal()) != 0;
-    }
+    /// Reads a page in the one folder and writes it translated to the other, in the place of its
+    /// copy. False, with nothing written or only a plain copy missing, when that does not succeed.
+    bool TranslateCopy(const CopiedFile& file);
+
+    /// Whether the file needs no translation any more: it is such a copy, or was written elsewhere
+    /// than it was read, in the place of none.
+    bool IsTranslated(const Folder& folder, const std::filesystem::path& name) const;
 
   private:
-    void RewriteFile(const Folder& folder, const std::filesystem::path& name, bool bScriptAware);
+    bool Substitute(const std::filesystem::path& name, bool bScriptAware);
+    void ReleaseMemory();
+    void RewriteFile(const Folder& folder, const std::filesystem::path& name);
     std::filesystem::path DestinationOf(const Folder& source) const;
     std::string_view PageBytes() const;
     void WriteElsewhere(const std::filesystem::path& destination);
@@ -49,7 +55,8 @@ class PageTranslator {
     PlaceholderSubstitution substitution_;
     FileContent source_;
     PageText page_;
-    std::set<std::filesystem::path> created_;
+    std::unordered_set<std::filesystem::path::string_type> copies_;
+    std::set<std::filesystem::path> created_;  // normalised
 };
 
 }  // namespace cvlang

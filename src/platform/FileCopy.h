@@ -1,8 +1,9 @@
-// Copying single files, with their attributes, over files that may be there.
+// Files of one folder that take their place in another: copied as they are, or written as pages.
 #pragma once
 
 #include <filesystem>
 #include <memory>
+#include <string_view>
 
 #include "platform/FileSystem.h"
 
@@ -19,11 +20,24 @@ struct TargetName {
     bool exists;
 };
 
-/// Copies one file from a folder to another. An existing target is replaced, read-only or not, and
-/// a file copied onto itself stays as it is. A copy that cannot be completed is removed. False on
-/// failure.
-bool CopyOneFile(const Folder& from, const std::filesystem::path& name, const Folder& to,
-                 const TargetName& target, CopiedAttributes attributes);
+/// One file on its way from a folder to another.
+struct CopiedFile {
+    const Folder& from;
+    const std::filesystem::path& name;
+    const Folder& to;
+    TargetName target;
+    CopiedAttributes attributes;
+};
+
+/// An existing target is replaced, read-only or not, and a file copied onto itself stays as it is.
+/// A copy that cannot be completed is removed. False on failure.
+bool CopyOneFile(const CopiedFile& file);
+
+/// Makes `bytes` the content of the target, as if the copy of `original` had been rewritten. On
+/// Linux an existing file is written over and keeps its owner and permissions, where only this file
+/// changes by that. A new file is writable, and otherwise not more open than the original. A file
+/// that cannot be completed is removed. False on failure.
+bool WritePage(const CopiedFile& file, std::string_view bytes, const FileContent& original);
 
 /// The spellings that names have in a folder that files are to be copied to.
 class TargetNames {

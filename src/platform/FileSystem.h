@@ -41,8 +41,8 @@ enum class FileStatus {
 class FileContent {
   public:
     std::string_view Bytes() const { return {buffer_.get(), size_}; }
-    /// Whether the file carries an attribute that ResetAttributes takes away.
-    bool HasAttributes() const { return hasAttributes_; }
+    /// The permission bits of the file on Linux, 0 on Windows.
+    unsigned Permissions() const { return permissions_; }
 
   private:
     friend FileStatus ReadFile(const Folder& folder, const std::filesystem::path& name,
@@ -53,7 +53,7 @@ class FileContent {
     std::unique_ptr<char[]> buffer_;
     std::size_t capacity_ = 0;
     std::size_t size_ = 0;
-    bool hasAttributes_ = false;
+    unsigned permissions_ = 0;
 };
 
 /// Reads a whole file. On failure the content is empty.
@@ -68,11 +68,6 @@ enum class Durability { Cached, OnDisk };
 /// disk still took then stays.
 bool WriteFile(const std::filesystem::path& path, std::string_view bytes,
                Durability durability = Durability::Cached);
-
-/// Deletes a file that is not read-only and writes it anew. On Linux it is written over instead,
-/// which keeps its owner and permissions, where only the file itself changes by that. When it
-/// cannot be written there is no such file afterwards, unless it cannot be deleted either.
-void WriteFileAnew(const Folder& folder, const std::filesystem::path& name, std::string_view bytes);
 
 /// Writes at the end of a file, creating it when it is missing. A read-only file stays as it is,
 /// for root too.
@@ -90,9 +85,5 @@ bool RenameFile(const std::filesystem::path& from, const std::filesystem::path& 
 
 /// Creates one folder. False when it exists already or cannot be created.
 bool CreateFolder(const std::filesystem::path& path);
-
-/// Takes away what keeps a file from being changed: read-only and archive on Windows; on Linux the
-/// owner gets the permission to write.
-void ResetAttributes(const std::filesystem::path& path);
 
 }  // namespace cvlang

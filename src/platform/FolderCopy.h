@@ -8,19 +8,14 @@
 
 namespace cvlang {
 
-/// Called after each file, whether it could be copied or not.
-using FileCopied = std::function<void()>;
+/// Called for each file, to copy it.
+using FileCopier = std::function<void(const CopiedFile& file)>;
 
-/// Copies the files that lie directly in `from` into the existing folder `to`, overwriting. A file
-/// that cannot be copied is passed over. A folder copied onto itself only has its files' attributes
-/// changed.
-void CopyFilesOf(const std::filesystem::path& from, const std::filesystem::path& to,
-                 CopiedAttributes attributes, const FileCopied& fileCopied);
-
-/// Copies the folders that lie directly in `from`, with all that is in them, into the existing
-/// folder `to`. A link to a folder is followed in `from`, unless it leads back to a folder that is
-/// being copied; a link in `to` is left alone with what is behind it.
-void CopyFoldersOf(const std::filesystem::path& from, const std::filesystem::path& to,
-                   const FileCopied& fileCopied);
+/// Copies what is in `from` into the existing folder `to`: first the files that lie directly in it,
+/// which get the archive attribute alone, then its folders, whose files keep theirs. A link to a
+/// folder is followed in `from`, unless it leads back to a folder that is being copied; a link in
+/// `to` is left alone with what is behind it. No folder is copied onto itself.
+void CopyFolder(const std::filesystem::path& from, const std::filesystem::path& to, bool toIsNew,
+                const FileCopier& copyFile);
 
 }  // namespace cvlang

@@ -166,7 +166,8 @@ TEST_F(ContentTree, LinksAreFollowedInTheReferenceFolderUnlessTheyLeadBackAndNev
 }
 
 TEST_F(ContentTree, OnlyAScriptFileIsScriptThroughoutAndAMissingPageIsLogged) {
-    PageTranslator pages(fake.program, {u"WebMail", u"default.net", u"French"},
+    PageTranslator pages(fake.program,
+                         FindLanguageFolders(fake.config, {u"WebMail", u"default.net", u"French"}),
                          {u"", u"[CV_TXT-A]"}, {u"", u"'"});
     for (const auto& [name, aware, result] :
          {std::tuple{"X.Js", true, "\\'"}, {"x.js", false, "'"}, {"xjs", true, "'"}}) {

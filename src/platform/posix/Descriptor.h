@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <filesystem>
 #include <string_view>
+#include <utility>
 
 #include "platform/FileSystem.h"
 
@@ -24,6 +25,12 @@ class Descriptor {
     int Number() const { return number_; }
     /// Some file systems tell only now that the disk is full.
     bool Close();
+    void Reset(int number) {
+        Close();
+        number_ = number;
+    }
+    /// Leaves closing to the caller.
+    int Release() { return std::exchange(number_, -1); }
 
   private:
     int number_;

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/DirectoryEntries.h"
@@ -13,19 +14,116 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool IsSameFile(const struct stat& a, const struct stat& b) {
-    return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+constexpr mode_t kAllPermissions = 0777;
+constexpr mode_t kAllWritePermissions = 0222;
+constexpr mode_t kModeBits = 07777;
+
+/// The permissions that a file gets: a new one, and an existing one that is written over.
+struct TargetMode {
+    mode_t ofNew;
+    mode_t cleared;
+    mode_t added;
+};
+
+TargetMode ModeOfCopy(mode_t original, CopiedAttributes attributes) {
+    const mode_t mode = original | (attributes == CopiedAttributes::Archive ? S_IWUSR : 0U);
+    const bool readOnly = (mode & S_IWUSR) == 0;
+    return {mode & kAllPermissions, readOnly ? kAllWritePermissions : 0,
+            readOnly ? 0 : mode_t{S_IWUSR}};
 }
 
+/// A page is writable at the end, after its copy was perhaps read-only.
+TargetMode ModeOfPage(mode_t original, CopiedAttributes attributes) {
+    TargetMode mode = ModeOfCopy(original, attributes);
+    mode.ofNew |= S_IWUSR;
+    mode.added |= S_IWUSR;
+    return mode;
+}
+
+/// A file of the target folder while it is written.
+class TargetFile {
+  public:
+    TargetFile(const Place& place, bool exists, const TargetMode& mode)
+        : place_(place), file_(OpenAny(exists, mode)) {}
+
+    bool IsOpen() const { return file_.IsOpen(); }
+
+    bool Write(std::string_view bytes) {
+        size_ += static_cast<off_t>(bytes.size());
+        return WriteAll(file_, bytes);
+    }
+
+    /// Closes the file and removes it unless it is complete.
+    bool Finish(bool complete) {
+        if (!IsOpen())
+            return false;
+        // Only now: ext4 writes a file that was emptied first to the disk at once.
+        complete = complete && (size_ >= existingSize_ || ftruncate(file_.Number(), size_) == 0);
+        if (file_.Close() && complete)
+            return true;
+        Remove(place_);
+        return false;
+    }
+
+  private:
+    int OpenAny(bool exists, const TargetMode& mode) {
+        const int file = exists ? OpenExisting(mode) : Create(mode);
+        if (file >= 0)
+            return file;
+        if (!exists)  // or it appeared meanwhile
+            return errno == EEXIST ? OpenExisting(mode) : -1;
+        Remove(place_);
+        return Create(mode);
+    }
+
+    /// Never through a link that somebody puts there.
+    int Create(const TargetMode& mode) const {
+        return Open(place_, O_WRONLY | O_CREAT | O_EXCL, mode.ofNew);
+    }
+
+    /// Opens an existing file to be written over, which is much cheaper than deleting and creating
+    /// it. -1 when something outside the folder, or a file that cannot be made writable, would
+    /// change.
+    int OpenExisting(const TargetMode& mode) {
+        Descriptor file(OpenNoLink());
+        if (!file.IsOpen() && errno == EACCES && MakeWritable())
+            file.Reset(OpenNoLink());
+        struct stat existing {};
+        if (!file.IsOpen() || fstat(file.Number(), &existing) != 0 || !S_ISREG(existing.st_mode) ||
+            existing.st_nlink != 1)
+            return -1;
+        const mode_t wanted = (existing.st_mode & ~mode.cleared) | mode.added;
+        if (wanted != existing.st_mode && fchmod(file.Number(), wanted & kModeBits) != 0)
+            return -1;
+        existingSize_ = existing.st_size;
+        return file.Release();
+    }
+
+    int OpenNoLink() const { return Open(place_, O_WRONLY | O_NOFOLLOW | O_NONBLOCK); }
+
+    bool MakeWritable() const {
+        struct stat existing {};
+        return fstatat(place_.directory, place_.name, &existing, AT_SYMLINK_NOFOLLOW) == 0 &&
+               S_ISREG(existing.st_mode) && existing.st_nlink == 1 && IsReadOnly(existing) &&
+               fchmodat(place_.directory, place_.name, (existing.st_mode | S_IWUSR) & kModeBits,
+                        AT_SYMLINK_NOFOLLOW) == 0;
+    }
+
+    const Place& place_;
+    off_t existingSize_ = 0;
+    off_t size_ = 0;
+    Descriptor file_;
+};
+
 /// Copies what is left to read; `size` is what the file is expected to hold in all.
-bool CopyBytes(const Descriptor& from, const Descriptor& to, off_t size) {
+bool CopyBytes(const Descriptor& from, TargetFile& to, off_t size) {
     std::array<char, 65536> buffer;
     off_t copied = 0;
     for (;;) {
         const ssize_t count = Read(from, buffer.data(), buffer.size());
         if (count <= 0)
             return count == 0;
-        if (!WriteAll(to, {buffer.data(), static_cast<std::size_t>(count)}))
+        if (!to.Write({buffer.data(), static_cast<std::size_t>(count)}))
             return false;
         copied += count;
         if (copied >= size && count < static_cast<ssize_t>(buffer.size()))
@@ -33,56 +131,35 @@ bool CopyBytes(const Descriptor& from, const Descriptor& to, off_t size) {
     }
 }
 
-/// Opens an existing file to be written over, without emptying it: ext4 writes a file that was
-/// emptied to the disk at once, and hands out new files slowly just after others were deleted. -1
-/// when a new file has to take its place, because something outside the folder would be written to.
-int OpenOver(const Place& to, const struct stat& existing) {
-    if (!S_ISREG(existing.st_mode) || existing.st_nlink != 1)
-        return -1;
-    if (IsReadOnly(existing))
-        fchmodat(to.directory, to.name, existing.st_mode | S_IWUSR, 0);
-    return Open(to, O_WRONLY | O_NOFOLLOW);
-}
-
-/// Cuts off what an overwritten file held behind its new content, and makes it read-only or not.
-bool FinishOver(const Descriptor& copy, const struct stat& existing, bool readOnly) {
-    const off_t size = lseek(copy.Number(), 0, SEEK_CUR);
-    if (readOnly)
-        fchmod(copy.Number(), existing.st_mode & ~static_cast<mode_t>(0222));
-    return existing.st_size <= size || ftruncate(copy.Number(), size) == 0;
+bool IsSameFile(const Place& place, const struct stat& other) {
+    struct stat status {};
+    return fstatat(place.directory, place.name, &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+           status.st_dev == other.st_dev && status.st_ino == other.st_ino;
 }
 
 }  // namespace
 
-bool CopyOneFile(const Folder& from, const fs::path& name, const Folder& to,
-                 const TargetName& target, CopiedAttributes attributes) {
-    const Place place(to, target.name);
-    const Descriptor source(Open({from, name}, O_RDONLY));
+bool CopyOneFile(const CopiedFile& file) {
+    const Place place(file.to, file.target.name);
+    const Descriptor source(Open({file.from, file.name}, O_RDONLY | O_NONBLOCK));
     struct stat original {};
-    if (!source.IsOpen() || fstat(source.Number(), &original) != 0)
+    if (!source.IsOpen() || fstat(source.Number(), &original) != 0 || !S_ISREG(original.st_mode))
         return false;
-    const mode_t added = attributes == CopiedAttributes::Archive ? S_IWUSR : 0;
-    const mode_t mode = (original.st_mode | added) & 0777;
+    if (file.target.exists && IsSameFile(place, original))
+        return true;
+    TargetFile copy(place, file.target.exists, ModeOfCopy(original.st_mode, file.attributes));
+    return copy.Finish(copy.IsOpen() && CopyBytes(source, copy, original.st_size));
+}
 
-    struct stat existing {};
-    const bool exists =
-        target.exists && fstatat(place.directory, place.name, &existing, AT_SYMLINK_NOFOLLOW) == 0;
-    if (exists && IsSameFile(existing, original))
-        return true;
-    const int overwritten = exists ? OpenOver(place, existing) : -1;
-    if (exists && overwritten < 0)
-        Remove(place);
-    Descriptor copy(overwritten >= 0 ? overwritten
-                                     : Open(place, O_WRONLY | O_CREAT | O_TRUNC, mode));
-    if (!copy.IsOpen())
-        return false;
-    bool copied = CopyBytes(source, copy, original.st_size);
-    if (overwritten >= 0)
-        copied = FinishOver(copy, existing, (mode & S_IWUSR) == 0) && copied;
-    if (copy.Close() && copied)
-        return true;
-    Remove(place);
-    return false;
+bool WritePage(const CopiedFile& file, std::string_view bytes, const FileContent& original) {
+    const Place place(file.to, file.target.name);
+    const TargetMode mode = ModeOfPage(original.Permissions(), file.attributes);
+    const auto write = [&](bool exists) {
+        TargetFile page(place, exists, mode);
+        return page.Finish(page.IsOpen() && page.Write(bytes));
+    };
+    // Where writing over fails, deleting may give the room for a new file.
+    return write(file.target.exists) || (file.target.exists && write(false));
 }
 
 struct TargetNames::Names {

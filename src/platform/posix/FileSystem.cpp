@@ -65,20 +65,6 @@ bool Write(const Place& place, std::string_view bytes, Durability durability) {
     return file.Close() && written;
 }
 
-/// Writes over an existing file, which is much cheaper than deleting and creating it. False when
-/// that did not succeed, or when the file is read-only, a link, or has another name too.
-bool WriteOver(const Place& place, std::string_view bytes) {
-    Descriptor file(Open(place, O_WRONLY | O_NOFOLLOW));
-    struct stat existing {};
-    if (!file.IsOpen() || fstat(file.Number(), &existing) != 0 || IsReadOnly(existing) ||
-        existing.st_nlink != 1)
-        return false;
-    const auto size = static_cast<off_t>(bytes.size());
-    const bool written =
-        WriteAll(file, bytes) && (existing.st_size <= size || ftruncate(file.Number(), size) == 0);
-    return file.Close() && written;
-}
-
 }  // namespace
 
 Folder::Folder(const fs::path& path)
@@ -97,7 +83,7 @@ FileStatus ReadFile(const Folder& folder, const fs::path& name, FileContent& con
         return StatusOfFailedOpen(folder.Path());
     if (fstat(file.Number(), &status) != 0 || !S_ISREG(status.st_mode))
         return FileStatus::OtherError;
-    content.hasAttributes_ = IsReadOnly(status);
+    content.permissions_ = status.st_mode & 0777;
     // One byte more than expected: reading exactly what was expected then says that this was all.
     const auto expected = static_cast<std::size_t>(status.st_size);
     content.Reserve(expected + 1);
@@ -122,15 +108,6 @@ FileStatus ReadFile(const fs::path& path, FileContent& content) {
 
 bool WriteFile(const fs::path& path, std::string_view bytes, Durability durability) {
     return Write(Place(path), bytes, durability);
-}
-
-void WriteFileAnew(const Folder& folder, const fs::path& name, std::string_view bytes) {
-    const Place place(folder, name);
-    if (WriteOver(place, bytes))
-        return;
-    Remove(place);
-    if (!Write(place, bytes, Durability::Cached))
-        Remove(place);
 }
 
 std::error_code AppendToFile(const fs::path& path, std::string_view bytes) {
@@ -170,12 +147,6 @@ bool RenameFile(const fs::path& from, const fs::path& to) {
 
 bool CreateFolder(const fs::path& path) {
     return mkdir(path.c_str(), 0777) == 0;
-}
-
-void ResetAttributes(const fs::path& path) {
-    struct stat status {};
-    if (stat(path.c_str(), &status) == 0 && IsReadOnly(status))
-        chmod(path.c_str(), status.st_mode | S_IWUSR);
 }
 
 }  // namespace cvlang

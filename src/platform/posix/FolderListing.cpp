@@ -7,6 +7,10 @@
 #include <algorithm>
 #include <memory>
 #include <string_view>
+#include <unordered_set>
+
+#include "platform/LetterCase.h"
+#include "text/Unicode.h"
 
 #include "text/AsciiCase.h"
 
@@ -15,27 +19,29 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Where an entry belongs in a listing, or nowhere (devices, pipes and the folder's own two names).
-std::vector<fs::path>* ListFor(const dirent& entry, DIR* folder, FolderListing& listing) {
+/// Puts an entry into a listing, or nowhere (devices, pipes and the folder's own two names).
+void Add(const dirent& entry, DIR* folder, FolderListing& listing) {
     const std::string_view name = entry.d_name;
     if (name == "." || name == "..")
-        return nullptr;
-    if (entry.d_type == DT_REG)
-        return &listing.files;
-    if (entry.d_type == DT_DIR)
-        return &listing.folders;
-    // A link, or a file system that tells no kinds.
-    struct stat status {};
-    if (fstatat(dirfd(folder), entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0)
-        return nullptr;
-    const bool isLink = S_ISLNK(status.st_mode);
-    if (isLink && fstatat(dirfd(folder), entry.d_name, &status, 0) != 0)
-        return nullptr;
-    if (S_ISREG(status.st_mode))
-        return &listing.files;
-    if (!S_ISDIR(status.st_mode))
-        return nullptr;
-    return isLink ? &listing.linkedFolders : &listing.folders;
+        return;
+    unsigned char type = entry.d_type;
+    bool isLink = false;
+    if (type != DT_REG && type != DT_DIR) {  // a link, or a file system that tells no kinds
+        struct stat status {};
+        if (fstatat(dirfd(folder), entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0)
+            return;
+        isLink = S_ISLNK(status.st_mode);
+        if (isLink && fstatat(dirfd(folder), entry.d_name, &status, 0) != 0)
+            return;
+        type = IFTODT(status.st_mode);
+    }
+    if (type == DT_DIR) {
+        (isLink ? listing.linkedFolders : listing.folders).emplace_back(name);
+    } else if (type == DT_REG) {
+        listing.files.emplace_back(name);
+        if (isLink)
+            listing.linkedFiles.emplace_back(name);
+    }
 }
 
 bool PrecedesInDirectoryWindow(const fs::path& a, const fs::path& b) {
@@ -57,13 +63,32 @@ FolderListing ListFolder(const fs::path& folder) {
     const std::unique_ptr<DIR, int (*)(DIR*)> open(opendir(folder.c_str()), closedir);
     if (open == nullptr)
         return listing;
-    while (const dirent* entry = readdir(open.get())) {
-        if (auto* list = ListFor(*entry, open.get(), listing))
-            list->emplace_back(entry->d_name);
-    }
-    for (auto* list : {&listing.files, &listing.folders, &listing.linkedFolders})
+    while (const dirent* entry = readdir(open.get()))
+        Add(*entry, open.get(), listing);
+    for (auto* list :
+         {&listing.files, &listing.linkedFiles, &listing.folders, &listing.linkedFolders})
         std::sort(list->begin(), list->end(), PrecedesInDirectoryWindow);
     return listing;
+}
+
+bool HasAlikeNames(const FolderListing& listing) {
+    const auto areAlike = [](const std::vector<fs::path>& names) {
+        std::unordered_set<std::u16string> capitals;
+        for (const fs::path& name : names)
+            capitals.insert(ToUpper(Utf8ToUtf16(name.native())));
+        return capitals.size() < names.size();
+    };
+    return areAlike(listing.files) || areAlike(listing.folders);
+}
+
+bool IsLinkedFolder(const fs::path& path) {
+    std::error_code ignored;
+    return fs::is_symlink(fs::symlink_status(path, ignored)) && fs::is_directory(path, ignored);
+}
+
+fs::path RealPath(const fs::path& path) {
+    std::error_code ignored;
+    return fs::canonical(path, ignored);
 }
 
 }  // namespace cvlang

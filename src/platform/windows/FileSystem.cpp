@@ -48,11 +48,6 @@ bool WriteAll(const FileHandle& file, std::string_view bytes) {
     return true;
 }
 
-bool HasAttributes(DWORD attributes) {
-    return attributes != INVALID_FILE_ATTRIBUTES &&
-           (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_ARCHIVE)) != 0;
-}
-
 }  // namespace
 
 Folder::Folder(const fs::path& path) : path_(path) {}
@@ -69,7 +64,6 @@ FileStatus ReadFile(const Folder& folder, const fs::path& name, FileContent& con
     BY_HANDLE_FILE_INFORMATION information{};
     if (!GetFileInformationByHandle(file.Get(), &information))
         return FileStatus::OtherError;
-    content.hasAttributes_ = HasAttributes(information.dwFileAttributes);
     content.Reserve((static_cast<std::size_t>(information.nFileSizeHigh) << 32) +
                     information.nFileSizeLow + 1);
     for (;;) {
@@ -99,13 +93,6 @@ bool WriteFile(const fs::path& path, std::string_view bytes, Durability durabili
            (durability == Durability::Cached || FlushFileBuffers(file.Get()));
 }
 
-void WriteFileAnew(const Folder& folder, const fs::path& name, std::string_view bytes) {
-    const fs::path path = folder.Path() / name;
-    RemoveFile(path);
-    if (!WriteFile(path, bytes))
-        RemoveFile(path);
-}
-
 std::error_code AppendToFile(const fs::path& path, std::string_view bytes) {
     const FileHandle file(path, FILE_APPEND_DATA, OPEN_ALWAYS);
     if (!file.IsOpen() || !WriteAll(file, bytes))
@@ -129,12 +116,6 @@ bool RenameFile(const fs::path& from, const fs::path& to) {
 
 bool CreateFolder(const fs::path& path) {
     return CreateDirectoryW(LongPath(path).c_str(), nullptr) != 0;
-}
-
-void ResetAttributes(const fs::path& path) {
-    const std::wstring file = LongPath(path);
-    if (HasAttributes(GetFileAttributesW(file.c_str())))
-        SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
 }  // namespace cvlang

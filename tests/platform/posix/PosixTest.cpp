@@ -41,8 +41,11 @@ TEST(FileCopy, AFileOfTwoNamesIsReplacedUnderOneOfThem) {
     PutFile(folder / "outside", "untouched");
     std::filesystem::create_directory(folder / "to");
     std::filesystem::create_hard_link(folder / "outside", folder / "to" / "a");
-    EXPECT_TRUE(CopyOneFile(Folder(folder / "from"), "a", Folder(folder / "to"), {"a", true},
-                            CopiedAttributes::Kept));
+    EXPECT_TRUE(CopyOneFile({Folder(folder / "from"),
+                             "a",
+                             Folder(folder / "to"),
+                             {"a", true},
+                             CopiedAttributes::Kept}));
     EXPECT_EQ(FileBytes(folder / "to" / "a"), "fresh");
     EXPECT_EQ(FileBytes(folder / "outside"), "untouched");
 }
