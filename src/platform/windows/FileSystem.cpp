@@ -1,51 +1,16 @@
 #include "platform/FileSystem.h"
 
-#include <windows.h>
-
 #include <algorithm>
 
-#include "platform/windows/LongPath.h"
+#include "platform/windows/FileHandle.h"
 
 namespace cvlang {
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-constexpr DWORD kLargestTransfer = 1U << 30;
-
-class FileHandle {
-  public:
-    FileHandle(const fs::path& path, DWORD access, DWORD disposition)
-        : handle_(CreateFileW(LongPath(path).c_str(), access, kShareAll, nullptr, disposition,
-                              FILE_ATTRIBUTE_NORMAL, nullptr)) {}
-    FileHandle(const FileHandle&) = delete;
-    FileHandle& operator=(const FileHandle&) = delete;
-    ~FileHandle() {
-        if (IsOpen())
-            CloseHandle(handle_);
-    }
-
-    bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
-    HANDLE Get() const { return handle_; }
-
-  private:
-    HANDLE handle_;
-};
-
 std::error_code LastError() {
     return {static_cast<int>(GetLastError()), std::system_category()};
-}
-
-bool WriteAll(const FileHandle& file, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const auto size = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), kLargestTransfer));
-        DWORD written = 0;
-        if (!::WriteFile(file.Get(), bytes.data(), size, &written, nullptr) || written == 0)
-            return false;
-        bytes.remove_prefix(written);
-    }
-    return true;
 }
 
 }  // namespace
@@ -89,13 +54,13 @@ FileStatus ReadFile(const fs::path& path, FileContent& content) {
 
 bool WriteFile(const fs::path& path, std::string_view bytes, Durability durability) {
     const FileHandle file(path, GENERIC_WRITE, CREATE_ALWAYS);
-    return file.IsOpen() && WriteAll(file, bytes) &&
+    return file.IsOpen() && file.WriteAll(bytes) &&
            (durability == Durability::Cached || FlushFileBuffers(file.Get()));
 }
 
 std::error_code AppendToFile(const fs::path& path, std::string_view bytes) {
     const FileHandle file(path, FILE_APPEND_DATA, OPEN_ALWAYS);
-    if (!file.IsOpen() || !WriteAll(file, bytes))
+    if (!file.IsOpen() || !file.WriteAll(bytes))
         return LastError();
     return {};
 }

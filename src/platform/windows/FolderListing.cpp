@@ -1,22 +1,35 @@
 #include "platform/FolderListing.h"
 
-#include <windows.h>
-
 #include <algorithm>
 #include <string_view>
 
-#include "platform/windows/LongPath.h"
+#include "platform/windows/FileHandle.h"
 
 namespace cvlang {
 namespace {
 
 namespace fs = std::filesystem;
 
-std::vector<fs::path>& ListFor(const WIN32_FIND_DATAW& entry, FolderListing& listing) {
-    if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
-        return listing.files;
-    const bool linked = (entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
-    return linked ? listing.linkedFolders : listing.folders;
+/// Links and junctions stand for another name; other reparse points are files and folders of their
+/// own. Wine gives no tag.
+bool IsLink(const WIN32_FIND_DATAW& entry) {
+    constexpr DWORD kNameSurrogate = 0x20000000;
+    return (entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+           (entry.dwReserved0 == 0 || (entry.dwReserved0 & kNameSurrogate) != 0);
+}
+
+void Add(const WIN32_FIND_DATAW& entry, FolderListing& listing) {
+    const std::wstring_view name = entry.cFileName;
+    if (name == L"." || name == L"..")
+        return;
+    const bool isLink = IsLink(entry);
+    if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        (isLink ? listing.linkedFolders : listing.folders).emplace_back(name);
+    } else {
+        listing.files.emplace_back(name);
+        if (isLink)
+            listing.linkedFiles.emplace_back(name);
+    }
 }
 
 bool PrecedesInDirectoryWindow(const fs::path& a, const fs::path& b) {
@@ -35,14 +48,37 @@ FolderListing ListFolder(const fs::path& folder) {
     if (search == INVALID_HANDLE_VALUE)
         return listing;
     do {
-        const std::wstring_view name = entry.cFileName;
-        if (name != L"." && name != L"..")
-            ListFor(entry, listing).emplace_back(name);
+        Add(entry, listing);
     } while (FindNextFileW(search, &entry));
     FindClose(search);
-    for (auto* list : {&listing.files, &listing.folders, &listing.linkedFolders})
+    for (auto* list :
+         {&listing.files, &listing.linkedFiles, &listing.folders, &listing.linkedFolders})
         std::sort(list->begin(), list->end(), PrecedesInDirectoryWindow);
     return listing;
+}
+
+bool HasAlikeNames(const FolderListing& /*listing*/) {
+    return false;
+}
+
+bool IsLinkedFolder(const fs::path& path) {
+    WIN32_FIND_DATAW entry{};
+    const HANDLE search = FindFirstFileExW(LongPath(path).c_str(), FindExInfoBasic, &entry,
+                                           FindExSearchNameMatch, nullptr, 0);
+    if (search == INVALID_HANDLE_VALUE)
+        return false;
+    FindClose(search);
+    return (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 && IsLink(entry);
+}
+
+fs::path RealPath(const fs::path& path) {
+    const FileHandle file(path, FILE_READ_ATTRIBUTES, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
+    std::wstring name(32768, L'\0');
+    name.resize(file.IsOpen() ? GetFinalPathNameByHandleW(file.Get(), name.data(),
+                                                          static_cast<DWORD>(name.size()),
+                                                          FILE_NAME_NORMALIZED)
+                              : 0);
+    return name;
 }
 
 }  // namespace cvlang
