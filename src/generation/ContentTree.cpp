@@ -79,7 +79,8 @@ class OnePassCheck {
             (!listing.linkedFolders.empty() || (!languageIsNew_ && HasAlikeNames(listing))))
             return false;
         for (const fs::path& name : listing.linkedFiles) {
-            if (IsWithin(RealPath(folder / name), language_))
+            const fs::path target = RealPath(folder / name);
+            if (target.empty() || IsWithin(target, language_))
                 return false;
         }
         // Pages below a folder of the reference folder's name are written to another folder.

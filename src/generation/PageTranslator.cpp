@@ -63,8 +63,12 @@ void PageTranslator::TranslateFile(const Folder& folder, const fs::path& name, b
 bool PageTranslator::TranslateCopy(const CopiedFile& file) {
     try {
         if (ReadFile(file.from, file.name, source_) != FileStatus::Okay ||
-            !Substitute(file.target.name, true) || !WritePage(file, PageBytes(), source_))
+            !Substitute(file.target.name, true))
             return false;
+        if (!WritePage(file, PageBytes(), source_)) {
+            substitution_.Uncount(source_.Bytes(), ScriptModeOf(file.target.name, true), page_);
+            return false;
+        }
     } catch (const std::bad_alloc&) {
         ReleaseMemory();
         return false;

@@ -107,7 +107,7 @@ void PlaceholderSubstitution::ReplaceLineInOrder(Page& page, std::size_t end) {
     page.output.Append(line.Text());
     page.copied = end;
     for (const TokenNumber number : line.Replaced())
-        ++useCounts_[static_cast<std::size_t>(number)];
+        useCounts_[static_cast<std::size_t>(number)] += step_;
     CountEmptyTokensUpTo(line.LookedAt());
 }
 
@@ -156,7 +156,7 @@ void PlaceholderSubstitution::Count(Page& page, const BracketGroup& group) {
     if (countedAt >= pageStart_ + page.lineStart)
         return;
     countedAt = pageStart_ + group.start;
-    ++useCounts_[index];
+    useCounts_[index] += step_;
 }
 
 void PlaceholderSubstitution::CountEmptyTokens(std::string_view text, BracketGroups first,
@@ -187,7 +187,7 @@ void PlaceholderSubstitution::SumUpEmptyTokens() {
     std::int32_t lines = 0;
     for (std::size_t i = tokens_.EmptyTokens().size(); i > 0; --i) {
         lines += std::exchange(linesByEmptyTokens_[i], 0);
-        useCounts_[static_cast<std::size_t>(tokens_.EmptyTokens()[i - 1])] += lines;
+        useCounts_[static_cast<std::size_t>(tokens_.EmptyTokens()[i - 1])] += step_ * lines;
     }
 }
 

@@ -30,6 +30,12 @@ class PlaceholderSubstitution {
     /// placeholder and there are more tokens than can be numbered (32767); the output is then of no
     /// use.
     bool Translate(std::string_view page, ScriptMode mode, PageText& output);
+    /// Takes a page's replacements out of the counts again: it could not be written.
+    void Uncount(std::string_view page, ScriptMode mode, PageText& output) {
+        step_ = -1;
+        Translate(page, mode, output);
+        step_ = 1;
+    }
 
     /// Gives the memory back that is kept from page to page.
     void ReleaseMemory();
@@ -62,6 +68,7 @@ class PlaceholderSubstitution {
 
     const TokenIndex& tokens_;
     std::vector<std::int32_t>& useCounts_;
+    std::int32_t step_ = 1;  // that counts change by
     // Of the page at hand.
     PageText normalised_;  // when it had other line ends
     PageScan scan_;

@@ -12,7 +12,7 @@ namespace cvlang {
 /// Windows junctions count as links.
 struct FolderListing {
     std::vector<std::filesystem::path> files;        // links to files among them
-    std::vector<std::filesystem::path> linkedFiles;  // once more
+    std::vector<std::filesystem::path> linkedFiles;  // these once more, and links to nothing
     std::vector<std::filesystem::path> folders;
     std::vector<std::filesystem::path> linkedFolders;
 };

@@ -32,7 +32,7 @@ void Add(const dirent& entry, DIR* folder, FolderListing& listing) {
             return;
         isLink = S_ISLNK(status.st_mode);
         if (isLink && fstatat(dirfd(folder), entry.d_name, &status, 0) != 0)
-            return;
+            listing.linkedFiles.emplace_back(name);
         type = IFTODT(status.st_mode);
     }
     if (type == DT_DIR) {

@@ -92,7 +92,16 @@ TargetNames::TargetNames(const fs::path& folder, bool folderIsNew) {
 TargetNames::~TargetNames() = default;
 
 TargetName TargetNames::Find(const fs::path& name) const {
-    return {name, names_ != nullptr && EntryExists(names_->folder / name)};
+    WIN32_FIND_DATAW entry{};
+    const HANDLE search =
+        names_ == nullptr
+            ? INVALID_HANDLE_VALUE
+            : FindFirstFileExW(LongPath(names_->folder / name).c_str(), FindExInfoBasic, &entry,
+                               FindExSearchNameMatch, nullptr, 0);
+    if (search == INVALID_HANDLE_VALUE)
+        return {name, false};
+    FindClose(search);
+    return {entry.cFileName, true};
 }
 
 }  // namespace cvlang
