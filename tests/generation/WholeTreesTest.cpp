@@ -140,7 +140,7 @@ class Installation {
 
 TEST(WholeTrees, ComeToTheSameInOnePassAsByCopyingFirst) {
     const char* const wanted = std::getenv("CVLANG_TREES");
-    const auto trees = static_cast<std::uint32_t>(wanted == nullptr ? 200 : std::atoi(wanted));
+    const auto trees = static_cast<std::uint32_t>(wanted == nullptr ? 100 : std::atoi(wanted));
     std::size_t files = 0;
     for (std::uint32_t seed = 1; seed <= trees; ++seed) {
         const auto state = [&](bool inOnePass) {
