@@ -19,7 +19,7 @@ if(CVLANG_FUZZ)
 endif()
 if(WIN32)
     # The release is one file that needs nothing but what Windows ships.
-    target_link_options(cvlang_options INTERFACE -static)
+    target_link_options(cvlang_options INTERFACE -static -Wl,--no-insert-timestamp)
     target_compile_options(cvlang_options INTERFACE -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=)
     target_compile_definitions(cvlang_options INTERFACE
         UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0A00)

@@ -10,6 +10,7 @@ target_link_libraries(CVLangTranslator PRIVATE cvlang_resources)
 set_target_properties(CVLangTranslator PROPERTIES WIN32_EXECUTABLE ON)
 
 install(TARGETS CVLangTranslator RUNTIME DESTINATION .)
+install(FILES COPYRIGHT DESTINATION . RENAME COPYRIGHT.txt)
 set(documentation_folder docs)
 
 set(CPACK_GENERATOR NSIS ZIP)

@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 
 #include "generation/ContentTree.h"
+#include "platform/Process.h"
 
 namespace cvlang {
 
@@ -20,12 +21,19 @@ std::u16string GetQuotedField(std::u16string_view sText, char16_t delimiter, int
     return field;
 }
 
+void WriteUsage() {
+    WriteErrorLine(u"CVLangTranslator " PROGRAM_VERSION
+                   u", usage: CVLangTranslator APPLICATION BASE LANGUAGE (manual: man "
+                   u"CVLangTranslator; on Windows docs\\README.md beside the program)");
+}
+
 ExitStatus RunCommandLine(Program& program, std::u16string_view sCommandLine) {
     program.unattended = true;
     const std::u16string application = GetQuotedField(sCommandLine, u' ', 1);
     const std::u16string base = GetQuotedField(sCommandLine, u' ', 2);
     const std::u16string language = GetQuotedField(sCommandLine, u' ', 3);
     if (base.empty() || application.empty()) {
+        WriteUsage();
         program.messages.Show({u"Invalid arguments"});
         return ExitStatus::InvalidArguments;
     }

@@ -20,6 +20,9 @@ enum class ExitStatus {
 /// row have an empty field between them.
 std::u16string GetQuotedField(std::u16string_view sText, char16_t delimiter, int n);
 
+/// Writes the version, the call and the place of the manual to standard error, as one line.
+void WriteUsage();
+
 /// Runs one generation. The command line names application, base and language, parted by single
 /// blanks; an empty language is passed on.
 ExitStatus RunCommandLine(Program& program, std::u16string_view sCommandLine);

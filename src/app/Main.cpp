@@ -18,6 +18,7 @@ class CommandLineMessages : public StandardErrorMessages {
 };
 
 ExitStatus Run(std::u16string_view commandLine) {
+    DisableSystemErrorBoxes();
     const auto registry = SystemRegistry();
     const Configuration config(*registry);
     Logs logs;
@@ -29,9 +30,8 @@ ExitStatus Run(std::u16string_view commandLine) {
     const ExitStatus status =
         WindowsCanBeSeen() ? ShowMainWindow(config, logs) : ExitStatus::NoWindow;
     if (status == ExitStatus::NoWindow) {
-        WriteErrorLine(
-            u"CVLangTranslator cannot open its window here. Without one it generates a language's "
-            u"pages: CVLangTranslator APPLICATION BASE LANGUAGE");
+        WriteErrorLine(u"CVLangTranslator cannot open its window here.");
+        WriteUsage();
     }
     return status;
 }

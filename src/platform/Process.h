@@ -18,6 +18,9 @@ void KeepRunningOnFailedWrites();
 /// A variable of the environment; empty when it is not set.
 std::u16string EnvironmentText(const char* name);
 
+/// Lets calls for files on a drive without a medium fail. By default Windows asks the user for one.
+void DisableSystemErrorBoxes();
+
 /// False where nobody can see a window though one can be made, as in a Windows service: a message
 /// box would wait there for ever.
 bool WindowsCanBeSeen();

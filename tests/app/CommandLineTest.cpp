@@ -17,7 +17,7 @@ int RunProgram(const std::filesystem::path& installation, const std::string& arg
             "[HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\Corvane]\r\n"
             "\"Application Directory\"=\"" +
                 installation.generic_string() + "\"\r\n\"Authoring Version\"=dword:2\r\n");
-    const std::string command = WITH_SETTINGS PROGRAM_FILE " " + arguments + " 2> errors.txt";
+    const std::string command = RUN_PROGRAM + arguments + " 2> errors.txt";
     const int status = std::system(command.c_str());
     return status > 255 ? status / 256 : status;  // as Linux and as Windows report it
 }
@@ -56,7 +56,9 @@ TEST(ProgramFile, TellsWhatIsWrongByTextAndStatus) {
     };
     for (const char* arguments : {"WebMail", "WebMail \"\" French", "\"\" default.net French"}) {
         EXPECT_EQ(run(arguments), ExitStatus::InvalidArguments);
-        EXPECT_EQ(FileBytes("errors.txt").substr(0, 17), "Invalid arguments");
+        const std::string usage = "CVLangTranslator " PROGRAM_VERSION ", usage: CVLangTranslator ";
+        EXPECT_EQ(FileBytes("errors.txt").substr(0, usage.size()), usage);
+        EXPECT_NE(FileBytes("errors.txt").find("\nInvalid arguments"), std::string::npos);
     }
     EXPECT_EQ(run(""), ExitStatus::NoWindow);
     EXPECT_EQ(run("WebMail default.net"), ExitStatus::Done);  // an empty language is one, too

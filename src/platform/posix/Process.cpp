@@ -31,6 +31,8 @@ std::u16string EnvironmentText(const char* name) {
     return text == nullptr ? std::u16string() : Utf8ToUtf16(text);
 }
 
+void DisableSystemErrorBoxes() {}
+
 bool WindowsCanBeSeen() {
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <cstdlib>
 
 #include "platform/Ansi.h"
@@ -10,13 +11,16 @@ namespace cvlang {
 
 std::u16string CommandLineText(int, const char* const*) {
     const std::wstring_view line = GetCommandLineW();
-    const bool quoted = line.starts_with(L'"');
-    // A line that begins with a blank has an empty name: some callers give the file separately.
-    const std::size_t end = quoted ? line.find(L'"', 1) : line.find_first_of(L" \t");
-    if (end == std::wstring_view::npos)
-        return {};
+    // Quotes toggle anywhere in the program's name. It is empty when the line begins with a blank:
+    // some callers give the file separately.
+    bool quoted = false;
+    const auto end = std::ranges::find_if(line, [&quoted](wchar_t c) {
+        quoted = quoted != (c == L'"');
+        return !quoted && (c == L' ' || c == L'\t');
+    });
     // The blanks that part the program's name from its arguments belong to neither.
-    const std::size_t start = line.find_first_not_of(L" \t", quoted ? end + 1 : end);
+    const std::size_t start =
+        line.find_first_not_of(L" \t", static_cast<std::size_t>(end - line.begin()));
     if (start == std::wstring_view::npos)
         return {};
     const std::wstring_view arguments = line.substr(start);
@@ -28,6 +32,10 @@ void KeepRunningOnFailedWrites() {}
 std::u16string EnvironmentText(const char* name) {
     const char* const text = std::getenv(name);
     return text == nullptr ? std::u16string() : AnsiToUtf16(text);
+}
+
+void DisableSystemErrorBoxes() {
+    SetErrorMode(GetErrorMode() | SEM_FAILCRITICALERRORS);
 }
 
 bool WindowsCanBeSeen() {
