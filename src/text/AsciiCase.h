@@ -1,4 +1,4 @@
-// Letter case of ASCII letters alone; all other characters and bytes stay as they are.
+// Letter case of ASCII letters only. All other characters and bytes stay unchanged.
 #pragma once
 
 #include <string>
@@ -13,7 +13,7 @@ constexpr Character LowerAscii(Character c) {
 
 std::string ToLowerCase(std::string_view text);
 
-/// Whether a text ends with `lowerEnding`, which is in lower case.
+/// Whether a text ends with `lowerEnding`, which must be in lower case.
 template <typename Text>
 bool EndsWithIgnoringCase(const Text& text, std::string_view lowerEnding) {
     if (text.size() < lowerEnding.size())
@@ -26,8 +26,8 @@ bool EndsWithIgnoringCase(const Text& text, std::string_view lowerEnding) {
     return true;
 }
 
-/// Position of the first occurrence of `wanted`, which is in lower case, from a position on; npos
-/// when there is none.
+/// The position of the first occurrence of `wanted` (in lower case) at or after `from`; npos when
+/// there is none.
 std::size_t FindIgnoringCase(std::string_view text, std::string_view wanted, std::size_t from = 0);
 
 /// The text with every occurrence of `wanted` replaced.

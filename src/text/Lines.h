@@ -6,8 +6,8 @@
 
 namespace cvlang {
 
-/// Takes the lines of a text one after the other. CR LF, a bare LF and a bare CR end a line; a last
-/// line without an end counts; a text that ends with a line's end has no further, empty line.
+/// Iterates over the lines of a text. CR LF, a single LF and a single CR end a line. A last line
+/// without a line end counts. A line end at the end of the text does not start another line.
 template <typename Character>
 class Lines {
   public:
@@ -15,11 +15,11 @@ class Lines {
 
     explicit Lines(View text) : rest_(text) {}
 
-    /// The next line without its end, in `line`; false at the end of the text.
+    /// Sets `line` to the next line, without its end. False at the end of the text.
     bool Next(View& line) {
         if (rest_.empty())
             return false;
-        // One comparison for nearly all characters.
+        // Fast path: one comparison for nearly all characters.
         const auto isEnd = [](Character c) { return c <= '\r' && (c == '\r' || c == '\n'); };
         const auto end = static_cast<std::size_t>(std::find_if(rest_.begin(), rest_.end(), isEnd) -
                                                   rest_.begin());

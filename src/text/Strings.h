@@ -8,7 +8,7 @@ namespace cvlang {
 
 inline constexpr std::u16string_view kTab = u"\t";
 
-// The line end of all files and messages that the program writes, as bytes and as UTF-16.
+// The line end in all files and mails that the program writes, as bytes and as UTF-16.
 inline constexpr std::string_view kCrLf = "\r\n";
 inline constexpr std::u16string_view kCrLf16 = u"\r\n";
 
@@ -16,20 +16,19 @@ inline constexpr std::u16string_view kCrLf16 = u"\r\n";
 /// field.
 std::u16string_view SplitField(std::u16string_view text, std::u16string_view delimiter, int n);
 
-/// The text without the blanks at both ends, or at its end alone.
+/// The text without the blanks at both ends, or only at its end.
 std::u16string_view TrimBlanks(std::u16string_view text);
 std::string_view TrimBlanks(std::string_view text);
 std::u16string_view TrimTrailingBlanks(std::u16string_view text);
 
-/// The text between the first start marker and the first end marker behind it; empty when either is
-/// missing.
+/// The text between the first start marker and the next end marker; empty when either is missing.
 std::u16string_view GetStringBetween(std::u16string_view text, std::u16string_view startMarker,
                                      std::u16string_view endMarker);
 
-/// The number of fields; deliberately never more than 50.
+/// The number of fields. Deliberate: never more than 50.
 int CountFields(std::u16string_view text, std::u16string_view delimiter);
 
-/// As many "0" as a text of the given length lacks to the width; none when it is long enough.
+/// The zeros that pad a text of the given length to the width; empty when it is long enough.
 std::u16string ZeroPad(int width, int length);
 
 }  // namespace cvlang

@@ -28,7 +28,7 @@ void AppendUtf8(std::string& bytes, char32_t c) {
     }
 }
 
-/// How many bytes the sequence has that starts with `lead`; 0 when none can start with it.
+/// The length of the sequence that starts with `lead`; 0 when no sequence can.
 std::size_t SequenceLength(unsigned char lead) {
     if (lead < 0x80)
         return 1;

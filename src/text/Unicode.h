@@ -1,6 +1,5 @@
-// Unicode text: UTF-16 code units, characters, and UTF-8 as the outside world uses it (file names
-// on Linux, settings files, standard error). Pages have an encoder of their own, which encodes
-// surrogate halves one by one.
+// UTF-16 code units, code points, and UTF-8 for file names on Linux, settings files and standard
+// error. Pages have their own UTF-8 encoder, which encodes each surrogate by itself.
 #pragma once
 
 #include <string>
@@ -8,18 +7,18 @@
 
 namespace cvlang {
 
-/// The character that a text, which must not be empty, begins with. It is taken from the text; a
-/// half of a pair that stands alone counts as one.
+/// Removes the first code point from a text, which must not be empty, and returns it. A lone
+/// surrogate counts as a code point.
 char32_t TakeCharacter(std::u16string_view& text);
 
-/// Appends a character, in two units where it takes them.
+/// Appends a code point, as a surrogate pair where it needs one.
 void AppendCharacter(std::u16string& text, char32_t character);
 
-/// UTF-8 of a text; surrogate pairs are joined, a lone half is written as three bytes.
+/// The text as UTF-8. A lone surrogate is written as three bytes.
 std::string Utf16ToUtf8(std::u16string_view text);
 
-/// UTF-16 of UTF-8 bytes; three bytes that hold a lone half are taken as it (so that every text
-/// survives the way there and back), any other malformed byte becomes U+FFFD.
+/// The bytes as UTF-16. Three bytes that encode a lone surrogate become this surrogate, so every
+/// text converts back. Any other malformed byte becomes U+FFFD.
 std::u16string Utf8ToUtf16(std::string_view bytes);
 
 }  // namespace cvlang
