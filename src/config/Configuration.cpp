@@ -8,13 +8,12 @@
 namespace cvlang {
 namespace {
 
-// What a failing registry is answered with. The two folders differ in their last letters, and
-// set-up programs know both.
+// The results when the registry fails. Deliberate: the folders differ in case ("Bin" and "BIN").
 constexpr std::u16string_view kDefaultText = u"Default Value";
 constexpr std::u16string_view kDefaultProgramDirectory = u"C:\\Program Files\\Corvane\\Bin";
 constexpr std::u16string_view kDefaultApplicationDirectory = u"C:\\Program Files\\Corvane\\BIN";
 
-/// What `read` returns, or the fallback when it raises an error.
+/// The result of `read`, or the fallback when it raises an error.
 template <typename Read>
 std::u16string OrOnFailure(std::u16string_view fallback, Read read) {
     try {
@@ -43,8 +42,7 @@ std::u16string PaddedHexadecimal(std::uint32_t number, int width) {
     return ZeroPad(width, static_cast<int>(digits.size())) + digits;
 }
 
-/// The digits as a number format of two places leaves them: it pads what reads as a decimal number,
-/// and "A" does not.
+/// Deliberate: only bytes below 10 are padded to two digits, so 0A to 0F have one.
 std::u16string FormattedByte(std::uint8_t byte) {
     return byte < 10 ? PaddedHexadecimal(byte, 2) : Hexadecimal(byte);
 }

@@ -1,5 +1,5 @@
-// What the program knows about the installed mail server, read from the mail server's own registry
-// key. Every accessor reads anew, and nothing is ever written.
+// The settings of the installed mail server, from its registry key. Deliberate: every accessor
+// reads the registry at each call. Nothing is ever written.
 #pragma once
 
 #include <cstdint>
@@ -16,31 +16,30 @@ class Configuration {
     /// The registry must outlive the configuration.
     explicit Configuration(const Registry& registry) : registry_(registry) {}
 
-    /// The text of a value; empty when it cannot be read. The default is not applied: callers bring
-    /// their own.
+    /// The text of a value; empty when it cannot be read. Deliberate: the default is ignored.
     std::u16string ReadRegistryString(std::u16string_view key, std::u16string_view valueName,
                                       std::u16string_view defaultText) const;
-    /// The number of a value; 0 when it cannot be read or is of another kind.
+    /// The number of a value; 0 when it cannot be read or is no DWORD.
     std::int32_t ReadRegistryDword(std::u16string_view key, std::u16string_view valueName) const;
 
     static std::u16string GetProductName() { return u"Corvane"; }
 
     /// The folder of the post offices; "Default Value" when the registry fails.
     std::u16string GetPostOfficesDirectory() const;
-    /// The application directory as it is stored, empty when it is missing; the usual place of
-    /// installation when the registry fails.
+    /// The application directory as stored: empty when missing, the default folder when the
+    /// registry fails.
     std::u16string GetProgramDirectory() const;
-    /// The application directory, or the usual place of installation when none is stored.
+    /// The application directory; the default folder when none is stored.
     std::u16string GetApplicationDirectory() const;
-    /// The root of the classic web applications' sources; empty when there are none.
+    /// The root of the sources of the classic web applications; empty when there are none.
     std::u16string GetSourceRoot() const;
     /// The domain that mail is sent from; "Default Value" when the registry fails.
     std::u16string GetLocalDomainName() const;
     /// Whether translation runs are traced.
     bool IsDebugMode() const;
-    /// Below 2 the old names of files and folders are used.
+    /// Below 2, files and folders have their old names.
     std::int32_t GetAuthoringVersion() const;
-    /// 1 protects existing token map files from being fetched anew.
+    /// 1 protects existing token map files from being replaced by a download.
     std::int32_t GetLanguageAuthoring() const;
 
   private:
@@ -50,11 +49,11 @@ class Configuration {
     const Registry& registry_;
 };
 
-/// A new GUID in capitals, without separators, or "00000000" when the system makes none. 24 to 32
-/// characters: deliberately, each of the last eight bytes from 0A to 0F is written with one digit.
+/// A new GUID in upper-case hexadecimal without separators; "00000000" when the system fails.
+/// Deliberate: each of the last eight bytes from 0A to 0F has one digit, so it has 24 to 32 digits.
 std::u16string CreateGuidString(const GuidSource& newGuid = NewGuid);
 
-/// The computer's name; empty when the system does not know it.
+/// The computer's name; empty when the system fails.
 std::u16string GetLocalComputerName();
 
 }  // namespace cvlang

@@ -1,5 +1,5 @@
-// The program's two logs, append-only, one line per event: local date and time, TAB, message. Each
-// line opens and closes its file anew.
+// The two logs. Each event appends one line: local date and time, TAB, message. The file is opened
+// and closed for each line.
 #pragma once
 
 #include <filesystem>
@@ -12,14 +12,13 @@ namespace cvlang {
 
 class Logs {
   public:
-    /// An empty trace path stands for CVTrans.log in the folder of the program's own file.
+    /// An empty trace path means CVTrans.log in the folder of the program's executable.
     explicit Logs(Clock clock = SystemClock, std::filesystem::path tracePath = {});
 
-    /// Appends a line to LangPort.log in the current directory. What cannot be written is told, not
-    /// ignored.
+    /// Appends a line to LangPort.log in the current directory. Returns the error when it cannot.
     [[nodiscard]] std::error_code LogTranslationEvent(std::u16string_view message) const;
 
-    /// Appends a line to CVTrans.log; what cannot be written is lost.
+    /// Appends a line to CVTrans.log. Errors are ignored.
     void LogTranslationTrace(std::u16string_view message);
 
   private:
@@ -27,7 +26,7 @@ class Logs {
                                std::u16string_view message) const;
 
     Clock clock_;
-    std::filesystem::path tracePath_;  // remembered from the first line on
+    std::filesystem::path tracePath_;  // set by the first line, if it was empty
 };
 
 }  // namespace cvlang
