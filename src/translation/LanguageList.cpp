@@ -17,8 +17,8 @@ struct Language {
     std::u16string_view abbreviation;
 };
 
-// Deliberate: the two tables differ. Swedish is in the first alone; Turkish, Dutch and the
-// misspelled Portuguese are in the second alone.
+// Deliberate: the tables differ. Only the first has Swedish; only the second has Turkish, Dutch and
+// the misspelt Portuguese.
 constexpr Language kDefaultLanguages[] = {
     {u"Chinese", u"zh"},
     {u"Danish", u"dk"},
@@ -108,7 +108,7 @@ std::u16string_view ValidateNewLanguage(std::u16string_view list, std::u16string
     return {};
 }
 
-/// The list's lines, byte for byte, and the new one.
+/// The lines of the list with unchanged bytes, then the new one.
 std::string WithLanguage(std::string_view list, std::u16string_view name,
                          std::u16string_view abbreviation) {
     std::string longer;
@@ -148,8 +148,7 @@ std::vector<std::u16string> LoadLanguageList(const Configuration& config,
                                              const Selection& selection) {
     const std::filesystem::path file = GetLanguageListFilePath(config, selection);
     std::u16string list;
-    // A file that was just created is read once more; one that cannot be created leaves the list
-    // empty.
+    // A created file is read again, but only once: the list stays empty when it cannot be created.
     if (!ReadLanguageList(file, list) && CreateLanguageList(file))
         ReadLanguageList(file, list);
     std::vector<std::u16string> names;

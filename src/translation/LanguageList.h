@@ -1,5 +1,5 @@
-// Language list files: the languages of an application base, one a line: name TAB abbreviation, in
-// the ANSI code page. The abbreviations name the languages' files and folders.
+// Language list files: the languages of an application base. Each line is name TAB abbreviation, in
+// the ANSI code page. The abbreviation is part of the names of a language's files and folders.
 #pragma once
 
 #include <string>
@@ -11,9 +11,8 @@
 
 namespace cvlang {
 
-/// The abbreviation of the selected language: from the base's language list file when there is one,
-/// and then from nowhere else; otherwise from the built-in table. Empty when it is unknown. Letter
-/// case does not matter.
+/// The abbreviation of the selected language; empty when it is unknown. Letter case does not
+/// matter. Deliberate: the built-in table is used only when the base has no language list file.
 std::u16string LanguageAbbreviation(const Configuration& config, const Selection& selection);
 
 /// The same for an application, a language and a base.
@@ -24,14 +23,14 @@ inline std::u16string GetLanguageAbbreviation(const Configuration& config,
                                 {std::move(application), std::move(BaseName), std::move(LangName)});
 }
 
-/// The names in a base's language list file, in its order, blank lines included. A missing file is
-/// created with the default languages; when it cannot be, the list is empty.
+/// The names in a base's language list file, in its order, including blank lines. A missing file is
+/// created with the default languages. The list is empty when that fails.
 std::vector<std::u16string> LoadLanguageList(const Configuration& config,
                                              const Selection& selection);
 
-/// Appends a language to a base's language list file. A name or an abbreviation that is listed
-/// already, in any letter case, is refused with a message, as is a list that cannot be opened; the
-/// file is then left alone. True when the language was added.
+/// Appends a language to a base's language list file; true on success. A name or an abbreviation
+/// that is listed, in any letter case, or a list that cannot be opened is refused with a message.
+/// The file is then unchanged.
 bool AddLanguageToBase(Program& program, const Selection& selection, std::u16string_view name,
                        std::u16string_view abbreviation);
 

@@ -1,5 +1,5 @@
-// LANGUAGES.TAB, the language table: the languages whose pages were generated. All applications
-// share it. One line per abbreviation: abbreviation TAB language name.
+// LANGUAGES.TAB, the language table: the languages whose pages were generated, for all
+// applications. Each line is abbreviation TAB language name, with one line per abbreviation.
 #pragma once
 
 #include <string_view>
@@ -8,7 +8,7 @@
 
 namespace cvlang {
 
-/// Records that pages of the language exist. The application is accepted and not used.
+/// Records that pages of the language exist. Deliberate: the application is ignored.
 void UpdateLanguageTable(const Program& program, std::u16string_view application,
                          std::u16string_view LangName, std::u16string_view abbreviation);
 

@@ -36,8 +36,8 @@ std::u16string WithNewValue(std::u16string_view text, std::u16string_view key,
     Lines<char16_t> lines(text);
     for (std::u16string_view line; lines.Next(line);) {
         const std::u16string_view field = SplitField(line, kTab, 1);
-        // Blanks behind the key count as part of it here and are kept, although a look-up does not
-        // find such a line.
+        // Deliberate: blanks after the key are ignored and kept, although a look-up does not find
+        // such a line.
         if (TrimTrailingBlanks(field) == key) {
             rewritten += KeyedLine(field, value);
             found = true;
@@ -90,7 +90,7 @@ void RewriteKeyedLine(const RewrittenFile& rewritten, std::u16string_view key,
             WriteUtf16File(file, KeyedLine(key, value) + std::u16string(kCrLf16));
             break;
         case FileStatus::OtherError: {
-            // The same words for every file, although not every line is a token's.
+            // Deliberate: the same text for every file, also for those without tokens.
             [[maybe_unused]] const auto ignored =
                 logs.LogTranslationEvent(u"Unable to update token");
             break;

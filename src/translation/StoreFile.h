@@ -1,5 +1,5 @@
-// The files of the translation store: UTF-16 little-endian behind the byte-order mark FF FE, lines
-// ended by CR LF.
+// The files of the translation store: UTF-16 little-endian after the byte-order mark FF FE, with
+// CR LF line ends.
 #pragma once
 
 #include <filesystem>
@@ -10,7 +10,7 @@
 
 namespace cvlang {
 
-/// A file's text as it was when it was read.
+/// The text of a file, read by the constructor.
 class Utf16File {
   public:
     Utf16File() = default;
@@ -18,10 +18,9 @@ class Utf16File {
     explicit Utf16File(const std::filesystem::path& path) : status_(ReadFile(path, content_)) {}
 
     FileStatus Status() const { return status_; }
-    /// The text without a byte-order mark, an odd last byte dropped. It lives as long as the
-    /// object.
+    /// The text without byte-order mark and without an odd last byte. Valid as long as the object.
     std::u16string_view Text() const;
-    /// Whether there is an odd last byte: nothing can be appended then.
+    /// Whether there is an odd last byte, after which nothing can be appended.
     bool EndsWithinCharacter() const { return content_.Bytes().size() % 2 != 0; }
 
   private:
@@ -29,23 +28,22 @@ class Utf16File {
     FileStatus status_ = FileStatus::NotFound;
 };
 
-/// Makes the text, behind a byte-order mark, the file's whole content, on the disk itself: the file
-/// that it takes the place of is deleted afterwards. False on failure.
+/// Replaces the content of a file by a byte-order mark and the text, and flushes it to the disk,
+/// because the file that it replaces is deleted next. False on failure.
 bool WriteUtf16File(const std::filesystem::path& path, std::u16string_view text);
 
-/// Writes the text at the end of an existing file. What cannot be written is lost.
+/// Appends the text to an existing file. Errors are ignored.
 void AppendToUtf16File(const std::filesystem::path& path, std::u16string_view text);
 
-/// A file of the store and the file that it is rewritten through.
+/// A file of the store and its temporary file.
 struct RewrittenFile {
     std::filesystem::path file;
     std::filesystem::path copy;
 };
 
-/// In a file of lines "key TAB value", gives every line with the key the new value, or adds the
-/// line at the end. The copy is written with the change, the file deleted, and the copy renamed. A
-/// missing file is created with that one line; one that cannot be opened leaves "Unable to update
-/// token" in the log.
+/// In a file of lines "key TAB value", gives every line with the key the new value, or appends such
+/// a line. Writes the changed copy, deletes the file, renames the copy. A missing file is created
+/// with this one line. A file that cannot be opened is logged as "Unable to update token".
 void RewriteKeyedLine(const RewrittenFile& rewritten, std::u16string_view key,
                       std::u16string_view value, const Logs& logs);
 

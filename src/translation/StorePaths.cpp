@@ -16,7 +16,7 @@ std::u16string BasePrefix(const Selection& selection) {
     return selection.application + u"-" + selection.base + u"-";
 }
 
-/// The old names have no extension of their own: the abbreviation takes its place.
+/// Deliberate: the abbreviation is the extension of an old name.
 std::u16string LanguageEnding(std::u16string_view abbreviation, std::int32_t authoringVersion) {
     const std::u16string language(abbreviation);
     return authoringVersion < kNewNamesVersion ? u"." + language : u"-" + language + u".map";

@@ -1,5 +1,5 @@
-// The names of all files of the translation store. They lie directly in the application directory;
-// application and base are used exactly as they are listed.
+// The names of all files of the translation store. All are in the application directory itself.
+// Application and base are used exactly as listed.
 #pragma once
 
 #include <cstdint>
@@ -12,14 +12,14 @@
 
 namespace cvlang {
 
-/// From this authoring version on files and folders carry their new names.
+/// From this authoring version on, files and folders have their new names.
 inline constexpr std::int32_t kNewNamesVersion = 2;
 
 /// The beginning of the names of a base's map files: "App-Base-tokens"
 std::u16string MapFilePrefix(const Selection& selection);
 
-/// The name under which a language's map file is published, always a new one:
-/// App-Base-tokens-fr.map
+/// The name of a language's published map file. Deliberate: always the new name,
+/// App-Base-tokens-fr.map.
 std::u16string PublishedMapFile(const Selection& selection, std::u16string_view abbreviation);
 
 /// A language's map file: App-Base-tokens-fr.map, or App-Base-tokens.fr with the old names.
@@ -27,18 +27,18 @@ std::filesystem::path LanguageMapFile(std::u16string_view directory, const Selec
                                       std::u16string_view abbreviation,
                                       std::int32_t authoringVersion);
 
-/// The file that a language's map file is rewritten through.
+/// The temporary file for saving a text.
 std::filesystem::path TemporaryMapFile(std::u16string_view directory, const Selection& selection,
                                        std::u16string_view abbreviation,
                                        std::int32_t authoringVersion);
 
-/// The file that a map file is rewritten through when a token is removed.
+/// The temporary file for removing a token from a map file.
 std::filesystem::path RemovalCopy(const std::filesystem::path& mapFile);
 
 /// The languages of a base: App-Base-lang.txt
 std::filesystem::path LanguageListFile(std::u16string_view directory, const Selection& selection);
 
-/// The languages whose pages were generated, and the file that it is rewritten through.
+/// The language table, and its temporary file.
 std::filesystem::path LanguageTableFile(std::u16string_view directory);
 std::filesystem::path TemporaryLanguageTableFile(std::u16string_view directory);
 

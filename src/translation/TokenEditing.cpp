@@ -18,8 +18,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A language map file's token. One stray character in front of it, such as a second byte-order
-/// mark, does not count.
+/// The token of a line of a language map file. Deliberate: one character before the "[", such as a
+/// second byte-order mark, is ignored.
 std::u16string_view LanguageFileToken(std::u16string_view line) {
     std::u16string_view token = SplitField(line, kTab, kTokenField);
     if (!token.empty() && token.front() != u'[')
@@ -27,7 +27,7 @@ std::u16string_view LanguageFileToken(std::u16string_view line) {
     return token;
 }
 
-/// A reference map file's token. A line that is too short has none and is kept.
+/// The token of a line of a reference map file; empty for a line with too few fields.
 std::u16string_view ReferenceFileToken(std::u16string_view line) {
     return SplitField(line, kTab, kReferenceTokenField);
 }
@@ -49,12 +49,12 @@ void RemoveLines(const fs::path& mapFile, std::u16string_view token, TokenOfLine
     const fs::path copy = FindExisting(RemovalCopy(file));
     if (!WriteUtf16File(copy, kept))
         return;
-    // Deliberate: the file is deleted before the copy takes its name.
+    // Deliberate: the file is deleted before the copy is renamed.
     RemoveFile(file);
     RenameFile(copy, file);
 }
 
-/// "WebMail-default.net-tokens-", of a reference map file's name.
+/// The beginning of the names of the language map files: "WebMail-default.net-tokens-".
 std::u16string LanguageFilePrefix(const fs::path& referenceMapFile) {
     const std::u16string name = TextFromPath(referenceMapFile.filename());
     return MapFilePrefix({.application = std::u16string(SplitField(name, u"-", 1)),

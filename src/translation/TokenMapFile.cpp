@@ -42,7 +42,7 @@ void LoadTokens(const std::filesystem::path& path, Utf16File& file, TextArray& a
     const std::u16string_view text = mapFile.Text();
     if (text.empty())
         return;
-    file = std::move(mapFile);  // the text stays where it is
+    file = std::move(mapFile);  // does not move the text
     const auto lineEnds = static_cast<std::size_t>(std::count(text.begin(), text.end(), u'\n'));
     arrTokens.reserve(lineEnds + 2);
     arrValues.reserve(lineEnds + 2);
@@ -55,7 +55,7 @@ void LoadTokens(const std::filesystem::path& path, Utf16File& file, TextArray& a
         if (arrValues.size() <= n)
             Resize(arrValues, n);
         arrTokens[n] = SplitField(line, kTab, kTokenField);
-        // Counting goes on behind the token.
+        // The rest begins with the TAB, so the value is its field 2.
         arrValues[n] = SplitField(line.substr(arrTokens[n].size()), kTab, kValueField);
     }
     Resize(arrTokens, n);

@@ -1,9 +1,9 @@
-// Token map files: one token a line, with the text that stands for it in one language.
+// Token map files: each line has a token and its text in one language.
 //
 //   language map file    token TAB value
 //   reference map file   TAB TAB TAB token TAB English value
 //
-// A value cannot hold a line's end, and a TAB ends it.
+// A value cannot contain a line end, and ends at a TAB.
 #pragma once
 
 #include <filesystem>
@@ -25,15 +25,15 @@ inline constexpr int kValueField = 2;
 inline constexpr int kReferenceTokenField = 4;
 inline constexpr int kReferenceValueField = 5;
 
-/// Tokens or values; the texts lie elsewhere.
+/// Tokens or values, as views of a file's text.
 using TextArray = std::vector<std::u16string_view>;
 
-/// The token of a list entry such as "[CV_TXT-HELLO]: Hello"; a text of any other form is the token
-/// itself.
+/// The token of a list entry such as "[CV_TXT-HELLO]: Hello". A text of any other form is returned
+/// unchanged.
 std::u16string_view NormaliseToken(std::u16string_view entry);
 
 /// The value of a token, or of a list entry, in the selected language; empty when the file cannot
-/// be opened or does not hold the token.
+/// be opened or lacks the token.
 std::u16string TokenValue(const Configuration& config, std::u16string_view token,
                           const Selection& selection);
 
@@ -44,9 +44,9 @@ inline std::u16string GetTokenValue(const Program& program, std::u16string_view 
                       {program.CurrentApplication, std::move(BaseName), std::move(LangName)});
 }
 
-/// Loads a language's map file: line k goes to element k of both arrays, element 0 stays as it is,
-/// and both end at the last line. The texts lie in `file` then. A map file that cannot be opened or
-/// holds no line leaves everything unchanged.
+/// Loads a language's map file: line k becomes element k of both arrays, and element 0 is kept.
+/// Both arrays get the size for the last line. They are views of `file`, which must outlive them.
+/// Deliberate: a file that cannot be opened or is empty changes nothing.
 void LoadTokens(const std::filesystem::path& path, Utf16File& file, TextArray& arrTokens,
                 TextArray& arrValues);
 
@@ -54,11 +54,12 @@ void LoadTokens(const std::filesystem::path& path, Utf16File& file, TextArray& a
 void LoadLanguageTokensIntoArrays(const Configuration& config, const Selection& selection,
                                   Utf16File& file, TextArray& arrTokens, TextArray& arrValues);
 
-/// The entries of a reference map file, in its order; none when it cannot be opened. A token
-/// without a value stands alone, and only if it begins like a token.
+/// The list entries of a reference map file, in its order; none when it cannot be opened. The entry
+/// of a token without a value is the token. Tokens that do not begin with "[CV_" are left out.
 std::vector<std::u16string> ListTokens(const std::filesystem::path& referenceMapFile);
 
-/// The two parts of a list entry, trimmed of blanks. A value ends at its own first colon.
+/// The two parts of a list entry, without blanks at their ends. Deliberate: the value ends at its
+/// first colon.
 struct TokenEntry {
     std::u16string_view token;
     std::u16string_view value;
