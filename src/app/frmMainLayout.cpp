@@ -28,15 +28,15 @@ constexpr const char* kDescription =
 
 // At the usual resolution; the smallest window shows this much of everything.
 constexpr int kListWidth = 190;
-constexpr int kListHeight = 80;
-constexpr int kTokensHeight = 80;
-constexpr int kDetailsHeight = 56;
+constexpr int kListPixels = 72;  // at any resolution: GTK cannot draw lower scroll bars
 constexpr int kStartWidth = 800;
-constexpr int kStartHeight = 735;
+constexpr int kStartHeight = 700;
+constexpr int kFrameWidth = 2;
+constexpr int kTitleHeight = 36;
 
 /// A list's own idea of its size follows its entries, which come and go.
-void SetLeastSize(wxWindow* window, int width, int height) {
-    window->SetMinSize(window->FromDIP(wxSize(width, height)));
+void SetLeastSize(wxWindow* list) {
+    list->SetMinSize(wxSize(list->FromDIP(kListWidth), kListPixels));
 }
 
 }  // namespace
@@ -84,13 +84,19 @@ void frmMain::CreateControls() {
     frame->Add(panel_, wxSizerFlags(1).Expand());
     SetSizer(frame);
     Label7->Wrap(FromDIP(3 * kListWidth));
+    panel_->Bind(wxEVT_SIZE, &frmMain::OnResized, this);
+    // GTK does not know the title bar's height yet. Set with it, the size would make GTK forget the
+    // position, and lay the window out in two pixels first.
+    const wxSize room = wxDisplay(this).GetClientArea().GetSize() -
+                        ClientToWindowSize(FromDIP(wxSize(kFrameWidth, kTitleHeight)));
     // Not as a size hint of the sizer: GTK would ask again for the size of a label that is
     // unwrapped.
-    SetMinClientSize(frame->CalcMin());
-    panel_->Bind(wxEVT_SIZE, &frmMain::OnResized, this);
+    wxSize least = frame->CalcMin();
+    least.DecTo(room);
+    SetMinClientSize(least);
     wxSize start = FromDIP(wxSize(kStartWidth, kStartHeight));
-    start.DecTo(wxDisplay(this).GetClientArea().GetSize());
-    SetSize(start);
+    start.DecTo(room);
+    SetClientSize(start);
     CentreOnScreen();
 }
 
@@ -107,7 +113,7 @@ void frmMain::CreateSelection(wxSizer& column) {
     lstBases = CreateList(*row, "Label2", "Application Base:", "lstBases", &frmMain::OnBaseClick);
     lstLanguages =
         CreateList(*row, "Label3", "Target Language:", "lstLanguages", &frmMain::OnLanguageClick);
-    column.Add(row, wxSizerFlags(1).Expand().Border(wxTOP, FromDIP(kGap)));
+    column.Add(row, wxSizerFlags(4).Expand().Border(wxTOP, FromDIP(kGap)));
 }
 
 SelectionList* frmMain::CreateList(wxSizer& row, const char* labelName, const char* label,
@@ -115,7 +121,7 @@ SelectionList* frmMain::CreateList(wxSizer& row, const char* labelName, const ch
     auto* column = new wxBoxSizer(wxVERTICAL);
     AddLabel(*panel_, *column, labelName, label);
     auto* list = new SelectionList(panel_, name, [this, onClick] { Guarded(onClick); });
-    SetLeastSize(list, kListWidth, kListHeight);
+    SetLeastSize(list);
     AddToColumn(*column, list, 1);
     if (!row.IsEmpty())
         row.AddSpacer(FromDIP(kGap));
@@ -127,8 +133,8 @@ void frmMain::CreateTokens(wxSizer& column) {
     AddLabel(*panel_, column, "Label6", "Tokens:");
     lbxTokens = new SelectionList(
         panel_, "lbxTokens", [this] { Guarded(&frmMain::OnTokenClick); }, wxLB_HSCROLL);
-    SetLeastSize(lbxTokens, kListWidth, kTokensHeight);
-    AddToColumn(column, lbxTokens, 2);
+    SetLeastSize(lbxTokens);
+    AddToColumn(column, lbxTokens, 5);
 }
 
 void frmMain::CreateDetails(wxSizer& column) {
@@ -142,13 +148,14 @@ void frmMain::CreateDetails(wxSizer& column) {
                        wxLC_REPORT | wxLC_SINGLE_SEL, wxDefaultValidator, "lvwTokenDetails");
     lvwTokenDetails->AppendColumn("Token Name");
     lvwTokenDetails->AppendColumn("English Value");
-    SetLeastSize(lvwTokenDetails, kListWidth, kDetailsHeight);
+    // The heading, a row and a scroll bar.
+    lvwTokenDetails->SetMinSize(wxSize(-1, 7 * GetCharHeight() / 2));
     AddToColumn(*inner, lvwTokenDetails);
 
     AddLabel(*Frame1, *inner, "Label4", "Translated Token Value:");
     txtTranslation = new TextBox(Frame1, "txtTranslation");
     auto* row = new wxBoxSizer(wxHORIZONTAL);
-    row->Add(txtTranslation, wxSizerFlags(1).CentreVertical());
+    row->Add(txtTranslation, wxSizerFlags(1).Expand());
     row->AddSpacer(FromDIP(kGap));
     row->Add(CreateButton(*Frame1, "Update File", "cmdUpdate", &frmMain::OnUpdate));
     inner->Add(row, wxSizerFlags().Expand());

@@ -7,13 +7,14 @@
 namespace cvlang {
 namespace {
 
-constexpr int kComfortableWidth = 400;
+constexpr int kComfortableWidth = 380;
 
 }  // namespace
 
 wxSizer& StartColumn(wxDialog& dialog) {
     auto* margin = new wxBoxSizer(wxVERTICAL);
     auto* column = new wxBoxSizer(wxVERTICAL);
+    column->SetMinSize(dialog.FromDIP(wxSize(kComfortableWidth, -1)));
     margin->Add(column, wxSizerFlags(1).Expand().Border(wxALL, dialog.FromDIP(kWindowMargin)));
     dialog.SetSizer(margin);
     return *column;
@@ -24,6 +25,12 @@ void AddDialogButtons(wxDialog& dialog, wxSizer& column, wxButton* action, wxBut
     buttons->AddButton(action);
     buttons->AddButton(cancel);
     buttons->Realize();
+    // The system's own margin at the right: the buttons are to line up with the boxes.
+    const wxSizerItemList& items = buttons->GetChildren();
+    while (items.GetLast()->GetData()->IsSpacer())
+        buttons->Remove(static_cast<int>(items.size()) - 1);
+    wxSizerItem& last = *items.GetLast()->GetData();
+    last.SetFlag(last.GetFlag() & ~wxRIGHT);
     action->SetDefault();
     column.AddStretchSpacer();
     column.Add(buttons, wxSizerFlags().Right().Border(wxTOP, dialog.FromDIP(kWindowMargin)));
@@ -31,7 +38,6 @@ void AddDialogButtons(wxDialog& dialog, wxSizer& column, wxButton* action, wxBut
 
 void FitDialog(wxDialog& dialog) {
     dialog.GetSizer()->SetSizeHints(&dialog);
-    dialog.SetSize(dialog.FromDIP(wxSize(kComfortableWidth, -1)));
     dialog.CentreOnParent();
 }
 

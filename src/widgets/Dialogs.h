@@ -16,7 +16,7 @@ wxSizer& StartColumn(wxDialog& dialog);
 /// is wxID_OK), Escape the second (wxID_CANCEL).
 void AddDialogButtons(wxDialog& dialog, wxSizer& column, wxButton* action, wxButton* cancel);
 
-/// The smallest size at which nothing is cut, and a comfortable one to start with.
+/// The smallest size at which nothing is cut.
 void FitDialog(wxDialog& dialog);
 
 }  // namespace cvlang

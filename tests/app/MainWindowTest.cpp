@@ -1,4 +1,5 @@
 #include <wx/clipbrd.h>
+#include <wx/display.h>
 #include <wx/gauge.h>
 #include <wx/listctrl.h>
 #include <wx/textdlg.h>
@@ -36,6 +37,16 @@ TEST_F(MainWindow, OpensWithNoLanguageAndListsTokensWhenOneIsClicked) {
     Pick(Window(), kApplicationList, u"WebAdmin");
     EXPECT_EQ(program_.CurrentApplication, u"WebAdmin");
     EXPECT_EQ(FileBytes("WebAdmin-WebAdmin-lang.txt").substr(0, 12), "Chinese\tzh\r\n");
+}
+
+TEST_F(MainWindow, FitsTheScreen) {
+    EXPECT_TRUE(wxDisplay(&Window()).GetClientArea().Contains(Window().GetScreenRect()));
+    for (const char* button :
+         {"Update File", "Add Token...", "Remove Token...", "Apply Translation", "Quit"}) {
+        const wxImage picture = ScreenPixels(Find<wxButton>(Window(), button).GetScreenRect());
+        EXPECT_GT(ShareOfDark(picture), 0.01) << button;
+        EXPECT_LT(ShareOfDark(picture), 0.2) << button;
+    }
 }
 
 TEST_F(MainWindow, SavesWhatIsTypedAndNothingElse) {

@@ -7,6 +7,7 @@
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
 #include <wx/stattext.h>
+#include <wx/utils.h>
 
 #include <algorithm>
 
@@ -49,13 +50,21 @@ wxMenuItem* FindEntry(const wxMenuBar& bar, const wxString& menu, const wxString
     return nullptr;
 }
 
+/// Gives the toolkit and the display the time to draw.
+void Draw() {
+    for (int i = 0; i < 20; ++i) {
+        wxMilliSleep(10);
+        Settle();
+    }
+}
+
 void RunIn(wxDialog& dialog, const std::function<void(wxDialog&)>& actions) {
     try {
         actions(dialog);
     } catch (const std::exception& error) {
         ADD_FAILURE() << error.what();
     }
-    if (dialog.IsShown()) {
+    if (dialog.IsShown() && dialog.IsModal()) {
         ADD_FAILURE() << dialog.GetTitle() << " is still open";
         dialog.EndModal(wxID_CANCEL);
     }
@@ -119,10 +128,21 @@ void Type(wxWindow& parent, const wxString& box, const std::u16string& text) {
 }
 
 wxImage ScreenPixels(const wxRect& place) {
+    Draw();
     wxBitmap copy(place.GetSize(), 24);
     wxScreenDC screen;
     wxMemoryDC(copy).Blit({0, 0}, place.GetSize(), &screen, place.GetPosition());
     return copy.ConvertToImage();
+}
+
+double ShareOfDark(const wxImage& picture) {
+    constexpr unsigned char kDark = 100;
+    int dark = 0;
+    for (int y = 0; y < picture.GetHeight(); ++y) {
+        for (int x = 0; x < picture.GetWidth(); ++x)
+            dark += picture.GetRed(x, y) < kDark && picture.GetBlue(x, y) < kDark ? 1 : 0;
+    }
+    return static_cast<double>(dark) / (picture.GetWidth() * picture.GetHeight());
 }
 
 WindowScript::~WindowScript() {

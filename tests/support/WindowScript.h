@@ -51,6 +51,8 @@ void Type(wxWindow& parent, const wxString& box, const std::u16string& text);
 
 /// What the screen shows at a place.
 wxImage ScreenPixels(const wxRect& place);
+/// How much of a picture is black or nearly so, as texts are: from 0 to 1.
+double ShareOfDark(const wxImage& picture);
 
 /// Stands by while windows wait for the user. Each box and dialog must have been foreseen, in
 /// order; one that was not is closed and fails the test, as does one that does not come.

@@ -1,7 +1,8 @@
 """Runs a command on a desktop of its own: an X display with a window manager, and a web server on this computer.
 
-The display has the size that the variable SCREEN names, 1024x768 without it. The command finds the web server as
+The display has the size that the variable SCREEN names; 800x600 is the smallest supported one. The command finds the web server as
 CORVANE_DISTRIBUTION_SERVER and the empty folder that it publishes as TEST_WEB_FOLDER, on TEST_DRIVE if there are drives.
+A command that succeeds fails all the same when the toolkit complains on standard error.
 """
 import contextlib
 import functools
@@ -24,7 +25,16 @@ def server(ready, command, **options):
             process.terminate()
 
 
-screen = os.environ.get("SCREEN", "1024x768") + "x24"
+def run(command, environment):
+    with tempfile.TemporaryFile("w+", errors="replace") as errors:
+        status = subprocess.call(command, env=environment, stderr=errors)
+        errors.seek(0)
+        text = errors.read()
+    sys.stderr.write(text)
+    return status or int(re.search(r"(Gtk|Gdk|GLib)\S*-(CRITICAL|WARNING)", text) is not None)
+
+
+screen = os.environ.get("SCREEN", "800x600") + "x24"
 with (tempfile.TemporaryDirectory() as folder,
       server(r"\d", ["Xvfb", "-displayfd", "1", "-nolisten", "tcp", "-screen", "0", screen]) as display,
       http.server.ThreadingHTTPServer(("127.0.0.1", 0), functools.partial(
@@ -33,7 +43,7 @@ with (tempfile.TemporaryDirectory() as folder,
     environment |= {"DISPLAY": f":{display}", "GDK_BACKEND": "x11"}
     threading.Thread(target=web.serve_forever, daemon=True).start()
     with server("ready", ["openbox", "--startup", "echo ready"], env=environment):
-        status = subprocess.call(sys.argv[1:], env=environment | {
+        status = run(sys.argv[1:], environment | {
             "CORVANE_DISTRIBUTION_SERVER": f"127.0.0.1:{web.server_port}",
             "TEST_WEB_FOLDER": os.environ.get("TEST_DRIVE", "") + folder})
     web.shutdown()
