@@ -3,7 +3,7 @@
 namespace cvlang {
 
 std::optional<std::string> Utf16ToAnsiExactly(std::u16string_view text) {
-    // Code pages agree on ASCII, and most tokens are nothing else.
+    // Fast path: ASCII is the same in all code pages.
     char16_t bits = 0;
     for (const char16_t c : text)
         bits |= c;

@@ -1,4 +1,4 @@
-// Text in the system's ANSI code page: Windows' own there, Windows-1252 on Linux.
+// Text in the ANSI code page: the system's on Windows, Windows-1252 on Linux.
 #pragma once
 
 #include <optional>
@@ -7,8 +7,7 @@
 
 namespace cvlang {
 
-/// The UTF-16 text of ANSI bytes. Bytes that the code page leaves unassigned pass through by
-/// number.
+/// The UTF-16 text of ANSI bytes. An unassigned byte becomes the code unit of its number.
 std::u16string AnsiToUtf16(std::string_view bytes);
 
 /// The ANSI bytes of a text; a character that the code page lacks becomes "?".

@@ -1,8 +1,7 @@
-// Files and folders, as far as Windows and Linux differ about them: attributes, letter case, links.
+// Files and folders, where Windows and Linux differ: attributes, letter case, links.
 //
-// What reads (ReadFile, EntryExists) finds an entry whose name differs only in letter
-// case. What writes or lists takes the path exactly; pass it through FindExisting first where an
-// entry may exist under another spelling.
+// Readers (ReadFile, EntryExists) find an entry whose name differs only in letter case. Writers and
+// listings take the exact path: pass it through FindExisting first where such an entry may exist.
 #pragma once
 
 #include <filesystem>
@@ -12,18 +11,18 @@
 
 namespace cvlang {
 
-/// A folder that many files are read from or written to. They are then reached by their names
-/// alone, which spares the system going through the whole path each time.
+/// An open folder. Its files are reached by name, which is faster than resolving the whole path for
+/// each of them.
 class Folder {
   public:
-    /// The folder need not exist: what is done in it then fails.
+    /// In a folder that does not exist, every operation fails.
     explicit Folder(const std::filesystem::path& path);
     ~Folder();
     Folder(const Folder&) = delete;
     Folder& operator=(const Folder&) = delete;
 
     const std::filesystem::path& Path() const { return path_; }
-    /// For the implementation alone: an open directory on Linux, unused on Windows.
+    /// For the implementation only: an open directory on Linux, unused on Windows.
     int Descriptor() const { return descriptor_; }
 
   private:
@@ -37,7 +36,7 @@ enum class FileStatus {
     OtherError  // no such folder, no permission, not a file, ...
 };
 
-/// A file's bytes. Reading another file into the same object uses its memory again.
+/// The bytes of a file. Reading another file into the same object reuses its memory.
 class FileContent {
   public:
     std::string_view Bytes() const { return {buffer_.get(), size_}; }
@@ -47,7 +46,7 @@ class FileContent {
   private:
     friend FileStatus ReadFile(const Folder& folder, const std::filesystem::path& name,
                                FileContent& content);
-    /// Makes room for so many bytes in all; what was read so far stays.
+    /// Allocates room for so many bytes in total, and keeps the content.
     void Reserve(std::size_t capacity);
 
     std::unique_ptr<char[]> buffer_;
@@ -60,27 +59,24 @@ class FileContent {
 FileStatus ReadFile(const Folder& folder, const std::filesystem::path& name, FileContent& content);
 FileStatus ReadFile(const std::filesystem::path& path, FileContent& content);
 
-/// Whether what was written has reached the disk when writing ends, so that it outlives a power
-/// cut.
+/// Whether the bytes are flushed to the disk, so that they survive a power cut.
 enum class Durability { Cached, OnDisk };
 
-/// Makes the bytes the file's whole content. False on failure, also for a read-only file; what the
-/// disk still took then stays.
+/// Replaces the content of a file. False on failure, also for a read-only file; a part of the bytes
+/// may then have been written.
 bool WriteFile(const std::filesystem::path& path, std::string_view bytes,
                Durability durability = Durability::Cached);
 
-/// Writes at the end of a file, creating it when it is missing. A read-only file stays as it is,
-/// for root too.
+/// Appends to a file, and creates a missing one. A read-only file is unchanged, for root too.
 std::error_code AppendToFile(const std::filesystem::path& path, std::string_view bytes);
 
 /// Whether a file or a folder of that name exists.
 bool EntryExists(const std::filesystem::path& path);
 
-/// Deletes a file; a read-only one stays. False when it is still there afterwards.
+/// Deletes a file, unless it is read-only. False when it exists afterwards.
 bool RemoveFile(const std::filesystem::path& path);
 
-/// Gives a file another name in the same folder. False when that name is taken, or when there is no
-/// such file.
+/// Renames a file within its folder. False when the new name exists, or the file does not.
 bool RenameFile(const std::filesystem::path& from, const std::filesystem::path& to);
 
 /// Creates one folder. False when it exists already or cannot be created.

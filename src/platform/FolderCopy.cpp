@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Copies folders within folders, and knows on the way which ones are being copied from and to.
+/// Copies folders recursively, and remembers which ones are being copied.
 class FolderCopier {
   public:
     explicit FolderCopier(const FileCopier& copyFile) : copyFile_(copyFile) {}
@@ -52,7 +52,8 @@ class FolderCopier {
         const fs::path to = parent / target.name;
         if (target.exists && (IsLinkedFolder(to) || IsSameFolder(from, to)))
             return;
-        // Listed before the copy exists: a folder copied into itself must not find its own copy.
+        // Listed before the copy exists, so that a folder copied into itself does not copy its
+        // copy.
         const FolderListing listing = ListFolder(from);
         const bool isNew = CreateFolder(to);
         Copy(listing, from, to, isNew, CopiedAttributes::Kept);

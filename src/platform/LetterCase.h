@@ -6,8 +6,7 @@
 
 namespace cvlang {
 
-/// The text in capitals, letter by letter, so that its length stays the same (é becomes É, ß
-/// stays).
+/// The text in upper case, letter by letter, so its length is the same (é becomes É, ß stays).
 std::u16string ToUpper(std::u16string_view text);
 
 }  // namespace cvlang

@@ -1,5 +1,4 @@
-// File names: between the program's UTF-16 text and the system's paths, and found as Windows finds
-// them.
+// Paths: conversion from and to UTF-16 text, and look-up as on Windows.
 #pragma once
 
 #include <filesystem>
@@ -13,23 +12,22 @@ namespace cvlang {
 inline constexpr auto kSeparator =
     static_cast<char16_t>(std::filesystem::path::preferred_separator);
 
-/// The parts with separators between them; an empty part leaves its two separators side by side.
+/// The parts joined by separators. Deliberate: an empty part leaves two separators in a row.
 std::u16string JoinedPath(std::initializer_list<std::u16string_view> parts);
 
-/// The path that a UTF-16 text names (on Linux as UTF-8, independent of the locale). A NUL, which
-/// to the system would end the path at some folder above, becomes U+FFFD.
+/// The path of a UTF-16 text; on Linux in UTF-8, in any locale. A NUL, which would end the path for
+/// the system, becomes U+FFFD.
 std::filesystem::path PathFromText(std::u16string_view text);
 
 /// The UTF-16 text of a path.
 std::u16string TextFromPath(const std::filesystem::path& path);
 
-/// The path under which the entry that Windows would find stands on the disk: the exact name first,
-/// otherwise one that differs only in letter case, folder by folder. A path of which some part does
-/// not exist is returned with the names it was given from there on. On Windows the path itself.
+/// The path of the entry that Windows would find. In each folder the exact name is taken, otherwise
+/// one that differs only in letter case. From the first missing name on, the path is unchanged. On
+/// Windows the whole path is.
 std::filesystem::path FindExisting(const std::filesystem::path& path);
 
-/// The folder that the running program's file lies in, without a separator at its end; empty when
-/// unknown.
+/// The folder of the program's executable, without a separator at its end; empty when unknown.
 std::filesystem::path ExecutableFolder();
 
 }  // namespace cvlang

@@ -1,4 +1,4 @@
-// The process's own surroundings: how it was called and where it speaks when it has no window.
+// The process: its command line, environment, limits and standard error.
 #pragma once
 
 #include <string>
@@ -6,23 +6,22 @@
 
 namespace cvlang {
 
-/// The command line after the program's own name. On Windows as the process received it; on Linux
-/// rebuilt from the arguments: joined by single blanks, an argument that is empty or holds a blank
-/// set in double quotes.
+/// The command line after the program's name. On Windows it is the text that the process received.
+/// On Linux the arguments are joined by single blanks, with double quotes around those that are
+/// empty or contain a blank.
 std::u16string CommandLineText(int argc, const char* const* argv);
 
-/// Lets a write beyond the file size that the user may have, or to a closed pipe, fail like one to
-/// a full disk. Linux would end the process.
+/// Makes a write beyond the file size limit, or to a closed pipe, fail like a write to a full disk.
+/// Otherwise Linux ends the process.
 void KeepRunningOnFailedWrites();
 
 /// A variable of the environment; empty when it is not set.
 std::u16string EnvironmentText(const char* name);
 
-/// Lets calls for files on a drive without a medium fail. By default Windows asks the user for one.
+/// Makes file operations on a drive without a medium fail. By default Windows asks for one.
 void DisableSystemErrorBoxes();
 
-/// False where nobody can see a window though one can be made, as in a Windows service: a message
-/// box would wait there for ever.
+/// False where windows are invisible, as in a Windows service: a message box would wait for ever.
 bool WindowsCanBeSeen();
 
 /// Writes one line to standard error.

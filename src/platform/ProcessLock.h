@@ -6,9 +6,9 @@
 
 namespace cvlang {
 
-/// Held while the files of an installation are changed. It is advisory, creates no file, and is no
-/// condition: a process that waits for some seconds, or cannot lock at all, goes on without it. A
-/// process must not hold two at a time.
+/// Held while the files of an installation are changed. The lock is advisory and creates no file. A
+/// process that waits for five seconds, or cannot lock, continues without it. A process must not
+/// hold two of them.
 class ProcessLock {
   public:
     /// Waits until no other process holds the lock of this folder.

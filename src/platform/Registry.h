@@ -1,4 +1,4 @@
-// The settings that the mail server keeps below HKEY_LOCAL_MACHINE; this program only reads them.
+// The settings of the mail server, below HKEY_LOCAL_MACHINE. This program only reads them.
 #pragma once
 
 #include <cstdint>
@@ -8,8 +8,8 @@
 
 namespace cvlang {
 
-/// Where settings come from. Every call reads anew; nothing is cached. A registry may raise an
-/// error; the system's does so only when memory runs out.
+/// A source of settings. Every call reads the source again; nothing is cached. A registry may raise
+/// an error; the system's registry does so only when memory runs out.
 class Registry {
   public:
     virtual ~Registry() = default;
@@ -21,8 +21,8 @@ class Registry {
     virtual std::int32_t ReadDword(std::u16string_view key, std::u16string_view name) const = 0;
 };
 
-/// The system's registry. On Linux a registry export file stands for it: the one that the
-/// environment variable CORVANE_REGISTRY names, otherwise /etc/corvane/registry.reg.
+/// The system's registry. On Linux it is a registry export file: the one that the environment
+/// variable CORVANE_REGISTRY names, otherwise /etc/corvane/registry.reg.
 std::unique_ptr<Registry> SystemRegistry();
 
 }  // namespace cvlang

@@ -1,15 +1,15 @@
-// Parts of the program that are loaded when they are first needed.
+// Parts of the program that are loaded on demand.
 #pragma once
 
 #include <string>
 
 namespace cvlang {
 
-/// The address of a symbol in a shared module, which is looked for as the program's own libraries
-/// are; null when either is missing.
+/// The address of a symbol in a shared module, which is searched for like the program's libraries;
+/// null when module or symbol is missing.
 void* FindInModule(const char* module, const char* symbol);
 
-/// The system's words on why the last look-up found nothing.
+/// The system's reason for the last look-up that failed.
 std::u16string ReasonNothingWasFound();
 
 }  // namespace cvlang

@@ -1,4 +1,4 @@
-// Windows-1252: Latin-1 but for the 32 codes from 0x80.
+// Windows-1252: Latin-1 except for the 32 codes from 0x80.
 #include "platform/Ansi.h"
 
 #include <algorithm>
@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t kFirstSpecial = 0x80;
 
-// Unassigned codes stand for themselves, as on Windows.
+// Unassigned codes keep their number, as on Windows.
 constexpr std::array<char16_t, 32> kSpecial = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,

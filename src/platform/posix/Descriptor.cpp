@@ -13,7 +13,7 @@ bool Descriptor::Close() {
 }
 
 int Open(const Place& place, int flags, mode_t mode) {
-    // Not waiting: a pipe of that name would keep the program until somebody opens its other end.
+    // O_NONBLOCK: opening a pipe would wait until its other end is opened.
     constexpr int kAlways = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
     return Uninterrupted(
         [&] { return openat(place.directory, place.name, flags | kAlways, mode); });

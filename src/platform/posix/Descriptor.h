@@ -1,4 +1,4 @@
-// Open files and where they lie, for the implementations beside this header.
+// Open files and their places, for the files in this folder only.
 #pragma once
 
 #include <fcntl.h>
@@ -23,20 +23,20 @@ class Descriptor {
 
     bool IsOpen() const { return number_ >= 0; }
     int Number() const { return number_; }
-    /// Some file systems tell only now that the disk is full.
+    /// False on failure: some file systems report a full disk only now.
     bool Close();
     void Reset(int number) {
         Close();
         number_ = number;
     }
-    /// Leaves closing to the caller.
+    /// Returns the descriptor, which the caller must close.
     int Release() { return std::exchange(number_, -1); }
 
   private:
     int number_;
 };
 
-/// A file's place: a directory and the name in it, or a whole path.
+/// The place of a file: an open directory and a name in it, or a whole path.
 struct Place {
     Place(const Folder& folder, const std::filesystem::path& file)
         : directory(folder.Descriptor()), name(file.c_str()) {}
@@ -48,7 +48,7 @@ struct Place {
 
 inline constexpr mode_t kNewFileMode = 0666;
 
-/// Repeats a call of the system until no signal interrupts it.
+/// Repeats a system call until no signal interrupts it.
 template <typename Call>
 auto Uninterrupted(const Call& call) {
     auto result = call();
@@ -57,13 +57,13 @@ auto Uninterrupted(const Call& call) {
     return result;
 }
 
-/// A descriptor, or -1. The mode is that of a file that is created.
+/// Opens a file: a descriptor, or -1. `mode` is for a file that is created.
 int Open(const Place& place, int flags, mode_t mode = kNewFileMode);
 
-/// Deletes a file. False when it is still there afterwards.
+/// Deletes a file. False when it exists afterwards.
 bool Remove(const Place& place);
 
-/// Reads up to `size` bytes, 0 at the end; a negative number on failure.
+/// Reads up to `size` bytes: 0 at the end, negative on failure.
 ssize_t Read(const Descriptor& file, char* to, std::size_t size);
 
 bool WriteAll(const Descriptor& file, std::string_view bytes);

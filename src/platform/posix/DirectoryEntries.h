@@ -14,7 +14,7 @@ class DirectoryEntries {
     /// Reads the folder's names once; a folder that cannot be read has none.
     explicit DirectoryEntries(const std::filesystem::path& folder);
 
-    /// The entry's name as it stands on the disk: the exact one, otherwise one that differs only in
+    /// The name of the entry on the disk: the exact one, otherwise one that differs only in letter
     /// case.
     std::optional<std::string> Find(const std::string& name) const;
 

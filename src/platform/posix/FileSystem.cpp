@@ -41,8 +41,7 @@ fs::path FolderOf(const fs::path& path) {
     return path.has_parent_path() ? path.parent_path() : ".";
 }
 
-/// Opens a file to be written anew. Root may write to any file, but a read-only one must stay as it
-/// is for him too.
+/// Opens a file to be replaced. A read-only file is refused, for root too.
 int OpenForWriting(const Place& place) {
     const int created = Open(place, O_WRONLY | O_CREAT | O_EXCL);
     struct stat existing {};
@@ -52,7 +51,7 @@ int OpenForWriting(const Place& place) {
     return Open(place, O_WRONLY | O_TRUNC);
 }
 
-/// False when the disk fails; a file system that cannot do it is no failure.
+/// Flushes the file. False when the disk fails; a file system without flushing is no failure.
 bool Flush(const Descriptor& file) {
     return Uninterrupted([&] { return fsync(file.Number()); }) == 0 || errno == EINVAL;
 }
@@ -84,7 +83,7 @@ FileStatus ReadFile(const Folder& folder, const fs::path& name, FileContent& con
     if (fstat(file.Number(), &status) != 0 || !S_ISREG(status.st_mode))
         return FileStatus::OtherError;
     content.permissions_ = status.st_mode & 0777;
-    // One byte more than expected: reading exactly what was expected then says that this was all.
+    // One byte more than expected: a read of exactly the expected size then shows the end.
     const auto expected = static_cast<std::size_t>(status.st_size);
     content.Reserve(expected + 1);
     for (;;) {
@@ -126,7 +125,7 @@ bool EntryExists(const fs::path& path) {
 }
 
 bool RemoveFile(const fs::path& path) {
-    // As on Windows, where the attribute of the file counts and not that of its folder.
+    // As on Windows, the attribute of the file decides, not that of its folder.
     struct stat existing {};
     if (lstat(path.c_str(), &existing) != 0)
         return errno == ENOENT;
@@ -140,7 +139,7 @@ bool RenameFile(const fs::path& from, const fs::path& to) {
         return true;
     if (errno != EINVAL && errno != ENOSYS)
         return false;
-    // A file system without that call: a look beforehand is the next best.
+    // For a file system without that call: check first.
     struct stat taken {};
     return lstat(to.c_str(), &taken) != 0 && rename(from.c_str(), to.c_str()) == 0;
 }

@@ -19,14 +19,15 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Puts an entry into a listing, or nowhere (devices, pipes and the folder's own two names).
+/// Adds an entry to a listing; leaves out devices, pipes, "." and "..".
 void Add(const dirent& entry, DIR* folder, FolderListing& listing) {
     const std::string_view name = entry.d_name;
     if (name == "." || name == "..")
         return;
     unsigned char type = entry.d_type;
     bool isLink = false;
-    if (type != DT_REG && type != DT_DIR) {  // a link, or a file system that tells no kinds
+    if (type != DT_REG &&
+        type != DT_DIR) {  // a link, or a file system without types in its listings
         struct stat status {};
         if (fstatat(dirfd(folder), entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0)
             return;

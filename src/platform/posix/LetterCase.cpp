@@ -7,7 +7,7 @@
 namespace cvlang {
 
 std::u16string ToUpper(std::u16string_view text) {
-    // The C library's own table of letters, which every Debian has whatever locales are installed.
+    // C.UTF-8 has the table of letters and is in every Debian.
     static const locale_t letters = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
     std::u16string upper(text);
     std::transform(upper.begin(), upper.end(), upper.begin(), [](char16_t c) {

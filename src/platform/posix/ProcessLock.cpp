@@ -17,7 +17,7 @@ ProcessLock::ProcessLock(const std::filesystem::path& folder) {
     const auto end = std::chrono::steady_clock::now() + 5s;
     const std::filesystem::path existing = FindExisting(folder);
     const int directory = Open(Place(existing), O_RDONLY | O_DIRECTORY);
-    // Asked for again and again: nothing but a signal would end a wait in the system.
+    // Polled: only a signal would end a blocking flock.
     while (directory >= 0 && flock(directory, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK &&
            std::chrono::steady_clock::now() < end)
         std::this_thread::sleep_for(5ms);

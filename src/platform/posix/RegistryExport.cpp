@@ -14,7 +14,7 @@ constexpr std::u16string_view kShortRoot = u"HKLM\\";
 constexpr std::u16string_view kBlanks = u" \t";
 constexpr std::string_view kAnsiHeader = "REGEDIT4";
 
-// The kinds of value that matter here, by the registry's own numbers.
+// The types of values that are read, with the registry's numbers.
 constexpr unsigned kString = 1;
 constexpr unsigned kExpandableString = 2;
 constexpr unsigned kBinary = 3;
@@ -32,7 +32,7 @@ std::u16string FromUtf16Bytes(std::string_view bytes) {
 std::u16string DecodeFile(std::string_view file) {
     if (file.starts_with("\xFF\xFE"))
         return FromUtf16Bytes(file.substr(2));
-    // Without a mark: an export begins with ASCII, whose high bytes are zero in UTF-16.
+    // Without a byte-order mark: an export begins with ASCII, whose high bytes are 0 in UTF-16.
     if (file.size() >= 2 && file[1] == '\0')
         return FromUtf16Bytes(file);
     if (file.starts_with(kAnsiHeader))
@@ -50,13 +50,13 @@ bool TakePrefix(std::u16string_view& text, std::u16string_view prefix) {
     return starts;
 }
 
-/// Whether nothing but a comment is left of a line.
+/// Whether the rest of a line is blank or a comment.
 bool IsAtEnd(std::u16string_view line) {
     SkipBlanks(line);
     return line.empty() || line.front() == u';';
 }
 
-/// Takes a hexadecimal number and the blanks before it; nothing when there is none or it is too
+/// Removes blanks and a hexadecimal number from a text; nothing when there is none or it is too
 /// long.
 std::optional<std::uint32_t> TakeHex(std::u16string_view& text, std::size_t mostDigits) {
     SkipBlanks(text);
@@ -69,7 +69,7 @@ std::optional<std::uint32_t> TakeHex(std::u16string_view& text, std::size_t most
     return static_cast<std::uint32_t>(number);
 }
 
-/// Takes a text in quotation marks; nothing when it is not one.
+/// Removes a text in quotation marks; nothing when there is none.
 std::optional<std::u16string> TakeQuoted(std::u16string_view& text) {
     std::u16string unquoted;
     for (std::size_t i = 1; i < text.size() && text[0] == u'"'; ++i) {
@@ -88,7 +88,7 @@ std::optional<std::u16string> TakeQuoted(std::u16string_view& text) {
     return std::nullopt;
 }
 
-/// One pass over a file's lines, which keeps what the wanted value was last set to.
+/// Reads the lines of a file once, and keeps the last setting of the wanted value.
 class ExportReader {
   public:
     ExportReader(std::string_view file, std::u16string_view key, std::u16string_view name)
@@ -110,8 +110,8 @@ class ExportReader {
     }
 
   private:
-    /// A key's name as it is compared: in capitals, with the root's full name, and without the
-    /// backslashes that mean nothing.
+    /// A key's name for comparison: in upper case, with the root's full name, without superfluous
+    /// backslashes.
     static std::u16string Normalise(std::u16string_view key) {
         const std::u16string upper = ToUpper(key);
         std::u16string_view path = upper;
@@ -125,7 +125,7 @@ class ExportReader {
         return normal;
     }
 
-    /// Takes the next line that is neither blank nor a comment; empty at the end of the file.
+    /// The next line that is neither blank nor a comment; empty at the end of the file.
     std::u16string_view TakeLine() {
         std::u16string_view line;
         while (IsAtEnd(line) && !rest_.empty()) {
@@ -136,7 +136,7 @@ class ExportReader {
         return IsAtEnd(line) ? std::u16string_view() : line;
     }
 
-    /// A line that looks like a key but is none leaves the key before it in force.
+    /// A malformed key line does not change the current key.
     void EnterKey(std::u16string_view line) {
         const std::size_t closing = line.rfind(u']');
         line = line.substr(1, closing - 1);
@@ -149,7 +149,7 @@ class ExportReader {
             found_ = {};
     }
 
-    /// Reads "name"=data. Every entry is read whole, because bytes may go on in the next lines.
+    /// Reads "name"=data. All entries are read, because their bytes may continue in the next lines.
     void ReadEntry(std::u16string_view line) {
         const auto name = TakeQuoted(line);
         SkipBlanks(line);
@@ -191,8 +191,8 @@ class ExportReader {
         return bytes ? ValueFromBytes(*kind, *bytes) : std::nullopt;
     }
 
-    /// The bytes of a line and of those that continue it; nothing when one of them is malformed or
-    /// the last one is missing.
+    /// The bytes of a line and its continuations; nothing when one is malformed or the last is
+    /// missing.
     std::optional<std::string> TakeBytes(std::u16string_view list) {
         std::string bytes;
         for (bool goesOn = true; goesOn && !IsAtEnd(list);) {

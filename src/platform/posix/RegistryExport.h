@@ -13,7 +13,7 @@
 // - "name"=- removes the value. A semicolon begins a comment, also behind any of these.
 //
 // Later lines win over earlier ones, and letter case does not matter in keys and names. A line of
-// any other form, and a value that is malformed or cut off anywhere, is passed over as a whole.
+// any other form, and a value that is malformed or cut off, is ignored as a whole.
 #pragma once
 
 #include <cstdint>
@@ -23,8 +23,7 @@
 
 namespace cvlang {
 
-/// A value as far as this program uses its kind; neither part is set for a missing value or one of
-/// another kind.
+/// A text or a number. Neither is set for a missing value or one of another type.
 struct RegistryValue {
     std::optional<std::u16string> text;
     std::optional<std::int32_t> number;

@@ -7,7 +7,7 @@
 namespace cvlang {
 
 void* FindInModule(const char* module, const char* symbol) {
-    // Never closed: a toolkit does not survive being unloaded.
+    // Never closed: the toolkit cannot be unloaded.
     void* const handle = dlopen(module, RTLD_NOW | RTLD_LOCAL);
     return handle == nullptr ? nullptr : dlsym(handle, symbol);
 }

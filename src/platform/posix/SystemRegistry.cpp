@@ -9,7 +9,7 @@
 namespace cvlang {
 namespace {
 
-/// Larger files are no settings, and reading them would exhaust the memory.
+/// Larger files are no settings, and could exhaust the memory.
 constexpr std::uintmax_t kLargestFile = 256U << 20;
 
 std::filesystem::path RegistryFile() {

@@ -16,8 +16,8 @@ std::u16string AnsiToUtf16(std::string_view bytes) {
 std::string Utf16ToAnsi(std::u16string_view text) {
     const auto* wide = reinterpret_cast<const wchar_t*>(text.data());
     const int length = static_cast<int>(text.size());
-    // Without the flag "Ł" would turn into "L". Code pages such as UTF-8 refuse the flag and need
-    // none.
+    // Without the flag, "Ł" becomes "L". Code pages such as UTF-8 refuse the flag and do not need
+    // it.
     DWORD flags = WC_NO_BEST_FIT_CHARS;
     int size = WideCharToMultiByte(CP_ACP, flags, wide, length, nullptr, 0, nullptr, nullptr);
     if (size == 0) {

@@ -1,4 +1,4 @@
-// Open files and folders, for the implementations beside this header.
+// Open files and folders, for the files in this folder only.
 #pragma once
 
 #include <windows.h>

@@ -10,8 +10,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Links and junctions stand for another name; other reparse points are files and folders of their
-/// own. Wine gives no tag.
+/// Only links and junctions refer to another name; other reparse points are ordinary files and
+/// folders. Wine reports no tag.
 bool IsLink(const WIN32_FIND_DATAW& entry) {
     constexpr DWORD kNameSurrogate = 0x20000000;
     return (entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&

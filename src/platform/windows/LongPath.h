@@ -1,4 +1,4 @@
-// Paths beyond the 260 characters that Windows takes without further ado.
+// Paths longer than 260 characters, for Windows.
 #pragma once
 
 #include <filesystem>
@@ -6,7 +6,7 @@
 
 namespace cvlang {
 
-/// The path in the form that the file functions take at any length.
+/// The path in the form that file functions accept at any length.
 std::wstring LongPath(const std::filesystem::path& path);
 
 }  // namespace cvlang

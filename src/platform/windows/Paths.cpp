@@ -31,11 +31,11 @@ std::filesystem::path ExecutableFolder() {
 }
 
 std::wstring LongPath(const std::filesystem::path& path) {
-    constexpr std::size_t kShort = 240;  // leaves room for the 8.3 name that folders must allow for
+    constexpr std::size_t kShort = 240;  // a folder's path must leave room for an 8.3 name
     const std::wstring& text = path.native();
     if (text.size() < kShort || text.rfind(LR"(\\?\)", 0) == 0)
         return text;
-    // Not lexically_normal(), which takes one of the two separators in front of a server's name.
+    // Not lexically_normal(), which removes one of the two separators before a server's name.
     std::wstring full(32768, L'\0');
     full.resize(
         GetFullPathNameW(text.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));

@@ -11,14 +11,14 @@ namespace cvlang {
 
 std::u16string CommandLineText(int, const char* const*) {
     const std::wstring_view line = GetCommandLineW();
-    // Quotes toggle anywhere in the program's name. It is empty when the line begins with a blank:
-    // some callers give the file separately.
+    // Quotes may begin and end anywhere in the program's name. The name is empty when the line
+    // begins with a blank: some callers pass the file separately.
     bool quoted = false;
     const auto end = std::ranges::find_if(line, [&quoted](wchar_t c) {
         quoted = quoted != (c == L'"');
         return !quoted && (c == L' ' || c == L'\t');
     });
-    // The blanks that part the program's name from its arguments belong to neither.
+    // The blanks between the program's name and its arguments belong to neither.
     const std::size_t start =
         line.find_first_not_of(L" \t", static_cast<std::size_t>(end - line.begin()));
     if (start == std::wstring_view::npos)
@@ -47,8 +47,8 @@ bool WindowsCanBeSeen() {
 
 namespace {
 
-/// Standard error where the caller has given one, otherwise the console from which the program was
-/// started: a program with windows is not connected to it by itself.
+/// Standard error if the caller has redirected it, otherwise the console of the caller: a program
+/// with windows is not connected to it by default.
 HANDLE ErrorOutput() {
     const HANDLE given = GetStdHandle(STD_ERROR_HANDLE);
     if (GetFileType(given) != FILE_TYPE_UNKNOWN)
@@ -65,7 +65,7 @@ void WriteErrorLine(std::u16string_view text) {
     std::u16string line(text);
     line += u"\r\n";
     DWORD written = 0;
-    // A console takes UTF-16; a file or a pipe refuses it and gets ANSI bytes.
+    // A console accepts UTF-16. A file or a pipe refuses it and gets ANSI bytes.
     if (!WriteConsoleW(error, line.data(), static_cast<DWORD>(line.size()), &written, nullptr)) {
         const std::string bytes = Utf16ToAnsi(line);
         WriteFile(error, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);

@@ -13,8 +13,8 @@ namespace {
 
 constexpr DWORD kPatienceInMilliseconds = 5000;
 
-/// One name for each folder, however it is spelt. Names may hold no backslash, and not many
-/// characters.
+/// The same name for all spellings of a folder. A name must be short and without backslashes, hence
+/// the hash.
 std::wstring MutexName(const std::filesystem::path& folder) {
     std::error_code ignored;
     const auto path = std::filesystem::absolute(folder, ignored).lexically_normal();
@@ -25,7 +25,7 @@ std::wstring MutexName(const std::filesystem::path& folder) {
 }  // namespace
 
 ProcessLock::ProcessLock(const std::filesystem::path& folder) {
-    // For the processes of all users: without a list of them nobody is refused.
+    // Without an access list, the processes of all users are allowed.
     SECURITY_DESCRIPTOR everybody{};
     InitializeSecurityDescriptor(&everybody, SECURITY_DESCRIPTOR_REVISION);
     SetSecurityDescriptorDacl(&everybody, TRUE, nullptr, FALSE);
@@ -40,7 +40,7 @@ ProcessLock::~ProcessLock() {
     const auto mutex = reinterpret_cast<HANDLE>(handle_);
     if (mutex == nullptr)
         return;
-    ReleaseMutex(mutex);  // fails when the wait was given up
+    ReleaseMutex(mutex);  // fails after a time-out
     CloseHandle(mutex);
 }
 

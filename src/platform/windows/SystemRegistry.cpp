@@ -9,7 +9,7 @@ namespace {
 class RegistryKey {
   public:
     explicit RegistryKey(std::u16string_view key) {
-        // A 32-bit mail server's settings are where only 32-bit programs find them unasked.
+        // The settings of a 32-bit mail server are in the 32-bit view.
         const std::string name = Utf16ToAnsi(key);
         if (!Open(name, KEY_READ) && !Open(name, KEY_READ | KEY_WOW64_32KEY))
             handle_ = nullptr;
@@ -21,8 +21,8 @@ class RegistryKey {
             RegCloseKey(handle_);
     }
 
-    /// False when the key or the value is missing. Data may be null, to learn the type and the size
-    /// alone.
+    /// False when the key or the value is missing. With null for `data`, only type and size are
+    /// set.
     bool Query(const std::string& name, DWORD& type, void* data, DWORD& size) const {
         return handle_ != nullptr &&
                RegQueryValueExA(handle_, name.c_str(), nullptr, &type, static_cast<BYTE*>(data),
@@ -48,10 +48,10 @@ class WindowsRegistry : public Registry {
         if (!opened.Query(value, type, nullptr, size))
             return {};
         std::string bytes(size, '\0');
-        // The second answer counts: the first one may be larger than what there is to read.
+        // The second size counts: the first may be larger than the data.
         if (!opened.Query(value, type, bytes.data(), size) || size == 0)
             return {};
-        return AnsiToUtf16({bytes.data(), size - 1});  // without the NUL at its end
+        return AnsiToUtf16({bytes.data(), size - 1});  // without the final NUL
     }
 
     std::int32_t ReadDword(std::u16string_view key, std::u16string_view name) const override {
