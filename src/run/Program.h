@@ -1,4 +1,4 @@
-// What one run of the program shares: start-up creates it and passes it down.
+// What one run of the program shares. Start-up creates it and passes it down.
 #pragma once
 
 #include <cstdint>
@@ -19,11 +19,12 @@ struct Program {
 
     /// The application that is selected in the window.
     std::u16string CurrentApplication{};
-    /// How often each token of the array was replaced, counted over all runs of the process.
+    /// How often each token was replaced, by its index. Deliberate: counted over all runs of the
+    /// process.
     std::vector<std::int32_t> tokenUseCounts{};
-    /// Set when the program works without a window: no question is asked.
+    /// Set on the command line: no question is asked.
     bool unattended = false;
-    /// What the user sees of long work.
+    /// Shows long work to the user.
     Progress* progress = &Progress::None();
 };
 

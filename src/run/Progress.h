@@ -1,4 +1,4 @@
-// Work that takes long, and what the user sees of it.
+// The progress of long work.
 #pragma once
 
 #include <cstddef>
@@ -6,24 +6,24 @@
 
 namespace cvlang {
 
-/// Where long work is announced. This one shows nothing, as the command line wants it; windows
-/// bring their own.
+/// Shows long work to the user. This class shows nothing, for the command line; windows derive from
+/// it.
 class Progress {
   public:
     virtual ~Progress() = default;
 
     virtual void Begin() {}
     virtual void End() {}
-    /// Tells how many steps are to come; they are counted only if somebody looks.
+    /// Sets the number of steps. `countSteps` is called only if progress is shown.
     virtual void Expect(const std::function<std::size_t()>& /*countSteps*/) {}
-    /// One step is done, or the work is still going on where steps are not counted.
+    /// One step is done. Without a number of steps: the work continues.
     virtual void Step() {}
 
-    /// The one that shows nothing.
+    /// An object that shows nothing.
     static Progress& None();
 };
 
-/// Announces long work from its construction to its destruction.
+/// Shows long work during its lifetime.
 class ProgressScope {
   public:
     explicit ProgressScope(Progress& display) : display_(display) { display_.Begin(); }

@@ -1,4 +1,4 @@
-// Messages to the user, wherever he sits: before a window, or nowhere.
+// Messages to the user, in a box or on standard error.
 #pragma once
 
 #include <string>
@@ -6,7 +6,7 @@
 
 namespace cvlang {
 
-/// The title of a message that has none of its own.
+/// The title of messages without a title of their own.
 inline constexpr std::u16string_view kProgramTitle = u"CVLangTranslator";
 
 enum class MessageButtons { Ok, YesNo, YesNoCancel };
@@ -20,15 +20,15 @@ struct UserMessage {
     MessageIcon icon = MessageIcon::None;
 };
 
-/// Shows messages and returns the button that was pressed.
+/// Shows a message and returns the pressed button.
 class UserMessages {
   public:
     virtual ~UserMessages() = default;
     virtual MessageAnswer Show(const UserMessage& message) = 0;
 };
 
-/// For a process without a display: writes the text to standard error. Nobody is there to agree, so
-/// a question is answered with No.
+/// For a process without a display: writes the text to standard error and answers questions with
+/// No.
 class StandardErrorMessages : public UserMessages {
   public:
     MessageAnswer Show(const UserMessage& message) override;
