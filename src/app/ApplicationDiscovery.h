@@ -9,17 +9,18 @@
 
 namespace cvlang {
 
-/// The applications that can be translated. They are not looked for.
+/// The applications that can be translated, installed or not.
 inline constexpr std::u16string_view kApplications[] = {u"WebMail", u"WebAdmin"};
 
-/// The folder whose bases are looked for, whichever application is selected.
+/// Deliberate: the bases of this folder are listed for both applications.
 inline constexpr std::u16string_view kProbedApplication = u"netwebmail";
 
-/// Whether an entry of the base's name, a folder or a file, exists in the application's folder.
+/// Whether the application's folder has an entry of the base's name. Deliberate: a plain file
+/// counts too.
 bool BaseExists(const Configuration& config, std::u16string_view ApplicationName,
                 std::u16string_view BaseName);
 
-/// The installed bases in their usual order, as lists show them ("default.net").
+/// The installed bases in a fixed order, as listed ("default.net").
 std::vector<std::u16string> DetectBases(const Configuration& config,
                                         std::u16string_view applicationFolder);
 

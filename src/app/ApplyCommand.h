@@ -1,4 +1,4 @@
-// "Apply Translation", as the window has it done.
+// The "Apply Translation" command of the main window.
 #pragma once
 
 #include "run/Program.h"
@@ -6,8 +6,8 @@
 
 namespace cvlang {
 
-/// Generates a language's pages for a base of the selected application, records the language and
-/// tells the user that it is done, whatever became of single pages.
+/// Generates the pages of the selection, records the language in the language table, and reports
+/// success. Deliberate: failures of single pages are only logged.
 void GenerateLanguage(Program& program, const Selection& selection);
 
 }  // namespace cvlang

@@ -1,4 +1,4 @@
-// The program without its window: with arguments it generates the pages of one language and ends.
+// Command-line mode: generates the pages of one language.
 #pragma once
 
 #include <string>
@@ -8,23 +8,23 @@
 
 namespace cvlang {
 
-/// What the process returns to whoever started it.
+/// The exit status of the process.
 enum class ExitStatus {
-    Done = 0,              // a generation run, whatever it met, or a window that was closed
+    Done = 0,              // a run ended, with or without errors, or the window was closed
     InvalidArguments = 2,  // no application or no base
     NoWindow = 3           // no arguments, and no display to show the window on
 };
 
-/// The n-th field, from 1, of a text split at a delimiter. Double quotes protect delimiters and
-/// belong to no field; one that is not closed protects the rest. Each delimiter counts, so two in a
-/// row have an empty field between them.
+/// The n-th field of a text split at a delimiter, from 1. Double quotes protect delimiters and are
+/// removed. Deliberate: two delimiters in a row have an empty field between them, and an unclosed
+/// quote protects the rest.
 std::u16string GetQuotedField(std::u16string_view sText, char16_t delimiter, int n);
 
-/// Writes the version, the call and the place of the manual to standard error, as one line.
+/// Writes the version, the usage and the place of the manual to standard error, as one line.
 void WriteUsage();
 
-/// Runs one generation. The command line names application, base and language, parted by single
-/// blanks; an empty language is passed on.
+/// Runs one generation. The command line is application, base and language, separated by single
+/// blanks. Deliberate: an empty language is accepted.
 ExitStatus RunCommandLine(Program& program, std::u16string_view sCommandLine);
 
 }  // namespace cvlang

@@ -1,4 +1,4 @@
-// Where the maker of the mail server can be reached: fixed when the program is built.
+// The servers of the maker, fixed when the program is built.
 #pragma once
 
 #include "download/TokenFileFetch.h"
@@ -11,9 +11,8 @@ struct MakerServices {
     SubmissionTarget submission;
 };
 
-/// Those that the program was built with. For trying it out, the variables
-/// CORVANE_DISTRIBUTION_SERVER and CORVANE_SUBMISSION_SERVER of the environment name others, as
-/// HOST or HOST:PORT.
+/// The built-in servers, unless the environment names others in CORVANE_DISTRIBUTION_SERVER and
+/// CORVANE_SUBMISSION_SERVER, as HOST or HOST:PORT.
 MakerServices ConfiguredServices();
 
 }  // namespace cvlang

@@ -1,4 +1,4 @@
-// Removing a token, as far as the user wants it removed.
+// Removing a token after a question.
 #pragma once
 
 #include <filesystem>
@@ -8,8 +8,8 @@
 
 namespace cvlang {
 
-/// Asks whether the translated files are meant too, and removes the token from the reference map
-/// file and, on Yes, from all language map files beside it. On Cancel nothing happens.
+/// Asks whether to remove the token from the language map files too. Yes removes it from all map
+/// files of the base, No only from the reference map file, Cancel from none.
 void RemoveTokenAsAsked(UserMessages& messages, const std::filesystem::path& referenceMapFile,
                         std::u16string_view token);
 

@@ -22,7 +22,7 @@ std::optional<std::size_t> FindNext(const std::vector<std::u16string>& entries,
     return {};
 }
 
-/// A token that stands twice has the value of its first line.
+/// A repeated token has the value of its first line.
 std::unordered_set<std::u16string> TranslatedTokens(const Program& program,
                                                     const Selection& selection) {
     Utf16File mapFile;

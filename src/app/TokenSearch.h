@@ -1,5 +1,5 @@
-// Finding the next token of interest in a list of entries. A search begins behind the selected
-// entry, goes on at the top when it has reached the end, and looks at the selected one last.
+// Searching a list of entries. A search starts after the selected entry, continues at the top, and
+// ends with the selected entry.
 #pragma once
 
 #include <cstddef>
@@ -13,12 +13,12 @@
 
 namespace cvlang {
 
-/// The next entry that holds a text, in any letter case. Without a selection (nothing) the search
-/// begins at the top.
+/// The next entry that contains a text, in any letter case. Without a selection the search starts
+/// at the top.
 std::optional<std::size_t> FindEntry(const std::vector<std::u16string>& entries,
                                      std::optional<std::size_t> selected, std::u16string_view text);
 
-/// The next entry whose token has no value in a language's map file of the selected application.
+/// The next entry whose token has no value in the selected language's map file.
 std::optional<std::size_t> FindUntranslated(const Program& program,
                                             const std::vector<std::u16string>& entries,
                                             std::optional<std::size_t> selected,

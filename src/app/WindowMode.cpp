@@ -12,20 +12,20 @@
 namespace cvlang {
 namespace {
 
-/// A session of Windows may have nothing to show a window on; GTK has refused to start then.
+/// False in a Windows session without a desktop. On Linux, GTK has then refused to start.
 bool CanMakeWindows() {
     wxFrame probe;
     return probe.Create(nullptr, wxID_ANY, wxEmptyString);
 }
 
-/// The toolkit's side of the program.
+/// The toolkit's application object.
 class WindowApp : public wxApp {
   public:
     WindowApp(const Configuration& config, Logs& logs) : program_{config, logs, messages_} {
         SetAppDisplayName(ToWx(kProgramTitle));
     }
 
-    // The base's own would read the command line.
+    // The base class would read the command line.
     bool OnInit() override {
         if (!CanMakeWindows())
             return false;
@@ -33,7 +33,7 @@ class WindowApp : public wxApp {
         return true;
     }
 
-    // What no handler has caught: shown here too, and the window lives on.
+    // Shows errors that no handler has caught. The window stays open.
     bool OnExceptionInMainLoop() override {
         ShowingErrors(messages_, [] { throw; });
         return true;
@@ -44,14 +44,14 @@ class WindowApp : public wxApp {
     Program program_;
 };
 
-/// The toolkit takes arguments of its own from the command line; it is given none.
+/// Hides the command line from the toolkit, which has options of its own.
 struct NoArguments {
     int count = 1;
     char name[17] = "CVLangTranslator";
     char* values[2] = {name, nullptr};
 };
 
-/// The toolkit would tell its troubles in boxes of its own, also when there is no display for them.
+/// Keeps the toolkit from showing boxes of its own, even without a display.
 void Quieten() {
     wxDISABLE_DEBUG_SUPPORT();
     wxLog::EnableLogging(false);

@@ -1,4 +1,4 @@
-// Window mode from the module. Without the module the program is as without a display.
+// Loads window mode from its module. Without the module, the program behaves as without a display.
 #include "app/WindowMode.h"
 #include "platform/Process.h"
 #include "platform/SharedModule.h"

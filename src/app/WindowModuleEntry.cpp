@@ -1,4 +1,4 @@
-// The module's two functions, by the names that the program looks them up with.
+// The two functions that the program looks up in the module.
 #include "app/WindowMode.h"
 
 extern "C" {

@@ -13,8 +13,8 @@ class frmAddLanguage : public wxDialog {
   public:
     explicit frmAddLanguage(wxWindow* parent);
 
-    /// Shows the dialog. True when a name was entered; both texts are returned then, and left alone
-    /// otherwise. The abbreviation may be empty.
+    /// Shows the dialog. True, with both texts, when a name was entered; otherwise the texts are
+    /// unchanged. The abbreviation may be empty.
     bool AddLanguage(std::u16string& sLanguage, std::u16string& sAbbrev);
 
   private:

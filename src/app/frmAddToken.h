@@ -18,10 +18,10 @@ class frmAddToken : public wxDialog {
   public:
     frmAddToken(wxWindow* parent, UserMessages& messages);
 
-    /// Shows the dialog for a new token, which goes to the end of the reference map file.
+    /// Shows the dialog for a new token, which is appended to the reference map file.
     void AddToken(const std::filesystem::path& sTokenFile);
 
-    /// Shows the dialog for the removal of the token of a list entry ("[CV_TXT-HELLO]: Hello").
+    /// Shows the dialog for removing the token of a list entry ("[CV_TXT-HELLO]: Hello").
     void RemoveToken(const std::filesystem::path& sTokenFile, std::u16string_view sTokenName);
 
   private:

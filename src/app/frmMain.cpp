@@ -37,7 +37,7 @@ frmMain::frmMain(Program& program, MakerServices services)
 
 void frmMain::ShowIcon() {
     wxIcon icon;
-    // Linux has no such resource, there the desktop entry names the icon.
+    // Windows only: on Linux the desktop entry names the icon.
     if (icon.LoadFile("appicon", wxBITMAP_TYPE_ICO_RESOURCE))
         SetIcon(icon);
 }
@@ -69,7 +69,7 @@ void frmMain::LoadTokenList() {
     lbxTokens->Click(0);
 }
 
-/// Deliberate: clicks list the languages of the application's own file, not of the selected base's.
+/// Deliberate: clicks pass the application, so the languages are those of App-App-lang.txt.
 void frmMain::LoadLanguageList(const std::u16string& listedUnder) {
     lstLanguages->Fill(cvlang::LoadLanguageList(
         program_.config, {.application = program_.CurrentApplication, .base = listedUnder}));
@@ -135,7 +135,7 @@ void frmMain::OnNewLanguage() {
     std::u16string abbreviation;
     if (dialog.AddLanguage(name, abbreviation) &&
         AddLanguageToBase(program_, CurrentSelection(), name, abbreviation)) {
-        // The base's own list, so that the new language is seen.
+        // The list of the base, which has the new language.
         LoadLanguageList(base);
     }
 }
@@ -203,7 +203,7 @@ std::optional<std::size_t> frmMain::SelectedToken() const {
 }
 
 void frmMain::ClickFound(std::optional<std::size_t> index) {
-    // A click on the selected token would load its text again, over what was typed.
+    // A click on the selected token would replace the typed text.
     if (index && index != SelectedToken()) {
         lbxTokens->Click(*index);
     } else {

@@ -1,4 +1,4 @@
-// The main window: pick an application, a base, a language and a token, translate, generate.
+// The main window: selects application, base, language and token, edits and generates.
 #pragma once
 
 #include <wx/frame.h>
@@ -25,7 +25,7 @@ class TextBox;
 
 class frmMain : public wxFrame {
   public:
-    // The entries of the menu.
+    // Menu entries. Deliberate: one name has another prefix.
     enum MenuId {
         mnuFetchDefault = wxID_HIGHEST + 1,
         mnuNewLanguage,
@@ -35,7 +35,7 @@ class frmMain : public wxFrame {
         mnuHelpAbout
     };
 
-    // What keys do that no caption shows.
+    // Keys without a menu entry.
     enum KeyId {
         SaveKey = mnuHelpAbout + 1,
         SaveAndNextKey,
@@ -47,7 +47,7 @@ class frmMain : public wxFrame {
         UndoKey
     };
 
-    /// Fills the lists. The program must outlive the window, which shows all its long work.
+    /// Fills the lists. The program must outlive the window, which shows its progress.
     frmMain(Program& program, MakerServices services);
     ~frmMain() override;
 

@@ -1,4 +1,4 @@
-// What the main window looks like: its menu, controls and keys, and what each of them calls.
+// The layout of the main window: its menu, controls and keys, and what each of them calls.
 #include <wx/accel.h>
 #include <wx/button.h>
 #include <wx/display.h>
@@ -19,14 +19,14 @@
 namespace cvlang {
 namespace {
 
-// Users know the text as it stands, "modificatons" included.
+// Deliberate: "modificatons".
 constexpr const char* kDescription =
     "This utility allows the customization of different languages for Corvane WebMail and "
     "WebAdmin. "
     "Once you have made changes to a language, you can also submit the modificatons to Corvane so "
     "they can be used by others.";
 
-// At the usual resolution; the smallest window shows this much of everything.
+// Smallest sizes, in device-independent pixels.
 constexpr int kListWidth = 190;
 constexpr int kListPixels = 72;  // at any resolution: GTK cannot draw lower scroll bars
 constexpr int kStartWidth = 800;
@@ -34,7 +34,7 @@ constexpr int kStartHeight = 700;
 constexpr int kFrameWidth = 2;
 constexpr int kTitleHeight = 36;
 
-/// A list's own idea of its size follows its entries, which come and go.
+/// Without a fixed size, a list would change its size with its entries.
 void SetLeastSize(wxWindow* list) {
     list->SetMinSize(wxSize(list->FromDIP(kListWidth), kListPixels));
 }
@@ -68,7 +68,7 @@ void frmMain::CreateMenu() {
 }
 
 void frmMain::CreateControls() {
-    // The panel brings the Tab key and the system's background.
+    // The panel handles the Tab key and has the system's background.
     panel_ = new wxPanel(this);
     auto* margin = new wxBoxSizer(wxVERTICAL);
     auto* column = new wxBoxSizer(wxVERTICAL);
@@ -89,8 +89,7 @@ void frmMain::CreateControls() {
     // position, and lay the window out in two pixels first.
     const wxSize room = wxDisplay(this).GetClientArea().GetSize() -
                         ClientToWindowSize(FromDIP(wxSize(kFrameWidth, kTitleHeight)));
-    // Not as a size hint of the sizer: GTK would ask again for the size of a label that is
-    // unwrapped.
+    // Not a size hint of the sizer: GTK would then use the size of the unwrapped label.
     wxSize least = frame->CalcMin();
     least.DecTo(room);
     SetMinClientSize(least);
@@ -184,7 +183,7 @@ wxButton* frmMain::CreateButton(wxWindow& parent, const char* caption, const cha
     return button;
 }
 
-// The keys stand in no menu: captions are the same as ever.
+// The keys are not in the menu, because the captions are fixed.
 void frmMain::CreateKeys() {
     struct Key {
         int modifiers;
