@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "platform/SystemInformation.h"
-#include "platform/TimeZone.h"
 
 namespace cvlang {
 

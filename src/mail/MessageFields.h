@@ -8,7 +8,6 @@
 #include <string_view>
 
 #include "platform/SystemInformation.h"
-#include "platform/TimeZone.h"
 
 namespace cvlang {
 

@@ -1,4 +1,4 @@
-// What the system tells of itself: the time, the computer's name, fresh GUIDs.
+// System values: the time, the time zone, the computer's name, new GUIDs.
 #pragma once
 
 #include <array>
@@ -25,6 +25,22 @@ LocalTime SystemClock();
 
 /// Date, blank, time: in the user's regional format on Windows, as 2024-03-07 09:05:03 on Linux.
 std::u16string FormatDateAndTime(const LocalTime& time);
+
+/// Which of its times a zone is in.
+enum class ZoneTime { Unknown = 0, Standard = 1, Daylight = 2 };
+
+/// Minutes that are added to a local time to get UTC: the bias, and on top of it that of the time
+/// the zone is in.
+struct TimeZoneInformation {
+    int bias;
+    int standardBias;
+    int daylightBias;
+    ZoneTime time;
+};
+
+/// Tells the time zone; tests bring their own.
+using TimeZoneSource = std::function<TimeZoneInformation()>;
+TimeZoneInformation SystemTimeZone();
 
 /// The computer's name in ANSI characters; empty when the system does not tell.
 std::u16string ComputerName();

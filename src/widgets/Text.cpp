@@ -1,16 +1,29 @@
 #include "widgets/Text.h"
 
-#include "platform/WideText.h"
+#include "text/Unicode.h"
 
 namespace cvlang {
 
-// Not through the toolkit's own conversions: they drop or refuse texts with a lone half.
+// Not through the toolkit's own conversions, which drop or refuse texts with a lone half. Wide
+// characters are UTF-16 units on Windows and whole characters on Linux.
 wxString ToWx(std::u16string_view text) {
-    return wxString(WideFromUtf16(text));
+    std::wstring wide;
+    wide.reserve(text.size());
+    if constexpr (sizeof(wchar_t) == sizeof(char16_t)) {
+        wide.assign(text.begin(), text.end());
+    } else {
+        while (!text.empty())
+            wide += static_cast<wchar_t>(TakeCharacter(text));
+    }
+    return wxString(wide);
 }
 
 std::u16string FromWx(const wxString& text) {
-    return Utf16FromWide(text.ToStdWstring());
+    std::u16string units;
+    units.reserve(text.length());
+    for (const wchar_t c : text.ToStdWstring())
+        AppendCharacter(units, static_cast<char32_t>(c));
+    return units;
 }
 
 }  // namespace cvlang

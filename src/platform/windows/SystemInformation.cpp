@@ -17,6 +17,16 @@ LocalTime SystemClock() {
     return {now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond};
 }
 
+TimeZoneInformation SystemTimeZone() {
+    TIME_ZONE_INFORMATION zone{};
+    const DWORD result = GetTimeZoneInformation(&zone);
+    const auto time = result == TIME_ZONE_ID_STANDARD   ? ZoneTime::Standard
+                      : result == TIME_ZONE_ID_DAYLIGHT ? ZoneTime::Daylight
+                                                        : ZoneTime::Unknown;
+    return {static_cast<int>(zone.Bias), static_cast<int>(zone.StandardBias),
+            static_cast<int>(zone.DaylightBias), time};
+}
+
 std::u16string FormatDateAndTime(const LocalTime& time) {
     SYSTEMTIME system{};
     system.wYear = static_cast<WORD>(time.year);
