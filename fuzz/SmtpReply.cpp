@@ -27,8 +27,8 @@ std::string Wait(std::string_view set, std::string_view reply) {
     int minute = -1;
     const auto clock = [&minute] { return LocalTime{2004, 3, 7, 9, ++minute, 0}; };
     std::string code = WaitForReply(ends[1], set, clock, LocalTime{2004, 3, 7, 9, 0, 0});
-    CloseSocket(ends[0]);
-    CloseSocket(ends[1]);
+    CloseConnection(ends[0]);
+    CloseConnection(ends[1]);
     return code;
 }
 

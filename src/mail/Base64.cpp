@@ -57,7 +57,7 @@ char* EncodeLine(std::string_view bytes, char* to) {
     return to;
 }
 
-/// The values of a text's characters, four of them in one number, as the bytes they stand for.
+/// The values of a text's characters, four of them in one number, as bytes.
 class Decoder {
   public:
     explicit Decoder(std::size_t textSize) { bytes_.reserve(textSize / 4 * 3 + 3); }

@@ -11,8 +11,8 @@ namespace cvlang {
 class Base64 {
   public:
     /// Text longer than one line of 76 characters is cut into lines, each with a line break behind
-    /// it but for a last line that is not full. So a single full line has no line break and two
-    /// full lines have two: what reads the parts of a message relies on both.
+    /// it but for a last line that is not full. Deliberate: a single full line has no line break,
+    /// two full lines have two.
     static std::string EncodeByteArr(std::string_view bytInput);
     /// Appends the same text, without a copy in between.
     static void AppendEncoded(std::string& text, std::string_view bytes);

@@ -1,5 +1,4 @@
-// What stands in the headers of a message: addresses, its date, and names that must not occur
-// twice.
+// The values of a message's headers: addresses, its date, unique names.
 #pragma once
 
 #include <string>
@@ -14,8 +13,7 @@ namespace cvlang {
 std::vector<std::string_view> SplitList(std::string_view list, char separator);
 
 /// The list without repeated addresses. Its separator is ";" where it contains one, otherwise ",".
-/// An address that is the tail of an earlier one counts as repeated, too: users' lists were always
-/// cleaned that way.
+/// Deliberate: an address that is the end of an earlier one counts as repeated, too.
 std::string MergeAddressList(std::string_view list);
 
 /// The single addresses of several lists, without repeated ones.

@@ -77,13 +77,10 @@ std::string Message::EncodeByteArr(std::string_view bytInput) {
 int Message::SendMessage() {
     try {
         return Send() ? 1 : 0;
-    } catch (const ReceiveError& error) {
-        LogActivity(ErrorString);  // which says more than the error
-        ErrorString = error.Description();
-        return 0;
     } catch (const MailError& error) {
         ErrorString = error.Description();
-        LogActivity(ErrorString);
+        if (error.Number() != MailErrorNumber::Receive)  // which the log has with its command
+            LogActivity(ErrorString);
         return 0;
     }
 }
@@ -104,30 +101,26 @@ std::string Message::ComposeText() {
     const MimeForm form = FormOfHeaders();
     if (form != MimeForm::SinglePart && boundary_.empty())
         boundary_ = NewMIMEBoundary(environment_.newGuid);
-    const BodyDetails body = DetailsOfBody();
-    std::string text =
-        HeaderBlock(*this, {FormatMailDate(environment_.clock(), environment_.timeZone()),
-                            NewMessageFileName(environment_.newGuid) + "@" + GetHeloDomainName(),
-                            extraHeaders_, form, boundary_});
-    text.reserve(text.size() + EstimatedBodySize(*this, body));
-    AppendBody(text, *this, body);
-    return text;
-}
-
-BodyDetails Message::DetailsOfBody() const {
-    BodyDetails body{attachments_, "name", boundary_, {}};
+    MessageDetails details{FormatMailDate(environment_.clock(), environment_.timeZone()),
+                           {},
+                           extraHeaders_,
+                           form,
+                           boundary_,
+                           {},
+                           attachments_,
+                           "name"};
     if (attachments_.empty() && !AttachmentFileName.empty()) {
-        body.attachments = {{PathFromAnsi(AttachmentFileName), Attachmentname}};
-        body.nameParameter = "Name";  // meant, like the other spellings
+        details.attachments = {{PathFromAnsi(AttachmentFileName), Attachmentname}};
+        details.nameParameter = "Name";  // deliberate: a capital
     }
-    if (!body.attachments.empty() && HasHtmlBody())
-        body.innerBoundary = NewMIMEBoundary(environment_.newGuid);
-    return body;
+    if (!details.attachments.empty() && HasHtmlBody())
+        details.innerBoundary = NewMIMEBoundary(environment_.newGuid);
+    details.messageId = NewMessageFileName(environment_.newGuid) + "@" + GetHeloDomainName();
+    return MessageText(*this, details);
 }
 
-/// Without attachments this looks an empty file name up. Where that finds nothing, the headers
-/// announce attachments all the same. Meant: messages have always gone out so, and their readers
-/// cope with both.
+/// Deliberate: without attachments an empty file name is looked up. Where that finds nothing, the
+/// headers announce attachments all the same.
 MimeForm Message::FormOfHeaders() const {
     if (!attachments_.empty() || !AttachmentFileName.empty())
         return MimeForm::Mixed;

@@ -37,8 +37,8 @@ class Message : public MessageFields {
 
     static std::string EncodeByteArr(std::string_view bytInput);
 
-    /// Composes and delivers the message: 1 when the server took it, otherwise 0. ErrorString tells
-    /// more.
+    /// Composes and delivers the message: 1 when the server took it, otherwise 0. ErrorString has
+    /// the details.
     int SendMessage();
 
     /// The message as it goes over the wire.
@@ -47,7 +47,6 @@ class Message : public MessageFields {
   private:
     bool Send();
     MimeForm FormOfHeaders() const;
-    BodyDetails DetailsOfBody() const;
     std::string GetHeloDomainName() const;
     void LogActivity(std::string_view line) const;
 

@@ -63,7 +63,7 @@ struct MailEnvironment {
     Clock clock = SystemClock;
     GuidSource newGuid = NewGuid;
     TimeZoneSource timeZone = SystemTimeZone;
-    /// Called once before the program stands still to connect, so that windows can repaint.
+    /// Called once before connecting, which blocks the program, so that windows can repaint.
     std::function<void()> processPendingEvents = [] {};
     /// Called before each command, so that windows can show that the conversation goes on. Never
     /// amid the wait for a reply, which must not miss the end of its minute.

@@ -1,7 +1,7 @@
 #include "mail/MessageText.h"
 
 #include <filesystem>
-#include <utility>
+#include <initializer_list>
 
 #include "mail/Base64.h"
 #include "mail/HeaderValues.h"
@@ -14,17 +14,11 @@
 namespace cvlang {
 namespace {
 
-class HeaderWriter {
-  public:
-    HeaderWriter& Line(std::string_view name, std::string_view value) {
-        text_.append(name).append(value).append(kCrLf);
-        return *this;
-    }
-    std::string Text() && { return std::move(text_); }
-
-  private:
-    std::string text_;
-};
+void AppendLine(std::string& text, std::initializer_list<std::string_view> parts) {
+    for (const std::string_view part : parts)
+        text += part;
+    text += kCrLf;
+}
 
 std::string Mailbox(std::string_view displayName, std::string_view address) {
     return std::string("\"").append(displayName).append("\" <").append(address).append(">");
@@ -51,45 +45,54 @@ std::string Recipients(std::string_view addressList, std::string_view nameList) 
     return text;
 }
 
-void AppendMimeHeaders(HeaderWriter& writer, const MessageFields& fields,
-                       const HeaderDetails& details) {
+void AppendMimeHeaders(std::string& text, const MessageFields& fields,
+                       const MessageDetails& details) {
     if (details.form == MimeForm::SinglePart) {
         if (!fields.ContentType.empty())
-            writer.Line("Content-Type: ", fields.ContentType);
+            AppendLine(text, {"Content-Type: ", fields.ContentType});
         return;
     }
     const bool mixed = details.form == MimeForm::Mixed;
-    writer.Line("MIME-Version: ", "1.0");
-    writer.Line("Content-Type: ", mixed ? "multipart/mixed;" : "multipart/alternative;");
-    writer.Line("\tboundary=\"", details.boundary + "\"");
+    AppendLine(text, {"MIME-Version: 1.0"});
+    AppendLine(text, {"Content-Type: multipart/", mixed ? "mixed;" : "alternative;"});
+    AppendLine(text, {"\tboundary=\"", details.boundary, "\""});
 }
 
-void AppendDelimiter(std::string& text, std::string_view boundary) {
-    text.append("--").append(boundary).append(kCrLf);
+void AppendHeaders(std::string& text, const MessageFields& fields, const MessageDetails& details) {
+    const auto isGiven = [&details](std::string_view name) {
+        return FindIgnoringCase(details.extraHeaders, name) != std::string::npos;
+    };
+    AppendLine(text, {"From: ", Sender(fields)});
+    AppendLine(text, {"To: ", Recipients(fields.MailTo, fields.MailToDisplayName)});
+    if (!fields.MailCC.empty())
+        AppendLine(text, {"CC: ", Recipients(fields.MailCC, fields.MailCCDisplayName)});
+    AppendLine(text, {"Subject: ", fields.Subject});
+    AppendLine(text, {"Date: ", details.date});
+    if (!isGiven("x-mailer:"))
+        AppendLine(text, {"X-Mailer: Corvane"});
+    if (!isGiven("message-id:"))
+        AppendLine(text, {"Message-ID: <", details.messageId, ">"});
+    AppendMimeHeaders(text, fields, details);
+    AppendLine(text, {details.extraHeaders});
 }
 
-void AppendLastDelimiter(std::string& text, std::string_view boundary) {
-    text.append("--").append(boundary).append("--\r\n");
-}
-
-// These two spell "type" and "transfer-encoding" in small letters where the attachments have
-// capitals. Meant: the mail server's filters tell this program's messages by it.
+// Deliberate: "type" and "transfer-encoding" in small letters here, in capitals for attachments.
 void AppendTextPart(std::string& text, std::string_view subtype, std::string_view body) {
     text.append("Content-type: text/").append(subtype).append("; charset=\"US-ASCII\"\r\n");
     text.append("Content-transfer-encoding: 7bit\r\n\r\n").append(body);
 }
 
 void AppendAlternatives(std::string& text, const MessageFields& fields, std::string_view boundary) {
-    AppendDelimiter(text, boundary);
+    AppendLine(text, {"--", boundary});
     AppendTextPart(text, "plain",
                    fields.MessageBodyPlain.empty()
                        ? HTMLToText(fields.MessageBody, LineBreaks::Kept)
                        : fields.MessageBodyPlain);
     text += "\r\n\r\n";
-    AppendDelimiter(text, boundary);
+    AppendLine(text, {"--", boundary});
     AppendTextPart(text, "html", fields.MessageBody);
     text += "\r\n\r\n";
-    AppendLastDelimiter(text, boundary);
+    AppendLine(text, {"--", boundary, "--"});
 }
 
 void AppendAttachment(std::string& text, const Attachment& attachment,
@@ -102,8 +105,9 @@ void AppendAttachment(std::string& text, const Attachment& attachment,
     Base64::AppendEncoded(text, content.Bytes());
 }
 
-void AppendMixedBody(std::string& text, const MessageFields& fields, const BodyDetails& details) {
-    AppendDelimiter(text, details.boundary);
+void AppendMixedBody(std::string& text, const MessageFields& fields,
+                     const MessageDetails& details) {
+    AppendLine(text, {"--", details.boundary});
     if (fields.HasHtmlBody()) {
         text.append("Content-type: multipart/alternative; boundary=\"");
         text.append(details.innerBoundary).append("\"\r\n\r\n");
@@ -115,39 +119,18 @@ void AppendMixedBody(std::string& text, const MessageFields& fields, const BodyD
     FileContent content;
     for (const Attachment& attachment : details.attachments) {
         text += "\r\n\r\n";
-        AppendDelimiter(text, details.boundary);
+        AppendLine(text, {"--", details.boundary});
         AppendAttachment(text, attachment, details.nameParameter, content);
     }
     text += "\r\n\r\n";
-    AppendLastDelimiter(text, details.boundary);
+    AppendLine(text, {"--", details.boundary, "--"});
 }
 
-}  // namespace
-
-std::string HeaderBlock(const MessageFields& fields, const HeaderDetails& details) {
-    const auto isGiven = [&details](std::string_view name) {
-        return FindIgnoringCase(details.extraHeaders, name) != std::string::npos;
-    };
-    HeaderWriter writer;
-    writer.Line("From: ", Sender(fields));
-    writer.Line("To: ", Recipients(fields.MailTo, fields.MailToDisplayName));
-    if (!fields.MailCC.empty())
-        writer.Line("CC: ", Recipients(fields.MailCC, fields.MailCCDisplayName));
-    writer.Line("Subject: ", fields.Subject);
-    writer.Line("Date: ", details.date);
-    if (!isGiven("x-mailer:"))
-        writer.Line("X-Mailer: ", "Corvane");
-    if (!isGiven("message-id:"))
-        writer.Line("Message-ID: <", details.messageId + ">");
-    AppendMimeHeaders(writer, fields, details);
-    writer.Line(details.extraHeaders, "");
-    return std::move(writer).Text();
-}
-
-std::size_t EstimatedBodySize(const MessageFields& fields, const BodyDetails& details) {
+/// Roughly how long the message becomes, so that room can be made for it at once.
+std::size_t EstimatedSize(const MessageFields& fields, const MessageDetails& details) {
     constexpr std::size_t kPartHeaders = 400;
-    std::size_t size =
-        2 * fields.MessageBody.size() + fields.MessageBodyPlain.size() + 3 * kPartHeaders;
+    std::size_t size = details.extraHeaders.size() + 2 * fields.MessageBody.size() +
+                       fields.MessageBodyPlain.size() + 3 * kPartHeaders;
     for (const Attachment& attachment : details.attachments) {
         std::error_code error;
         const auto fileSize = std::filesystem::file_size(FindExisting(attachment.file), error);
@@ -156,13 +139,19 @@ std::size_t EstimatedBodySize(const MessageFields& fields, const BodyDetails& de
     return size;
 }
 
-void AppendBody(std::string& text, const MessageFields& fields, const BodyDetails& details) {
+}  // namespace
+
+std::string MessageText(const MessageFields& fields, const MessageDetails& details) {
+    std::string text;
+    text.reserve(EstimatedSize(fields, details));
+    AppendHeaders(text, fields, details);
     if (!details.attachments.empty())
         AppendMixedBody(text, fields, details);
     else if (fields.HasHtmlBody())
         AppendAlternatives(text, fields, details.boundary);
     else
         text += fields.MessageBody;
+    return text;
 }
 
 }  // namespace cvlang

@@ -49,14 +49,6 @@ std::ptrdiff_t SendAll(SocketHandle socket, std::string_view bytes) {
 
 }  // namespace
 
-int StartSockets() {
-    return StartSocketLibrary();
-}
-
-int StopSockets() {
-    return StopSocketLibrary();
-}
-
 bool IsIPAddress(const std::string& host) {
     return !host.empty() && AddressFromNumbers(host).has_value();
 }
@@ -84,10 +76,6 @@ SocketHandle ConnectToHost(const std::string& host, int port,
     if (ConnectSocket(socket, *AddressFromNumbers(numbers), static_cast<std::uint16_t>(port)) != 0)
         return Abandon(socket);
     return socket;
-}
-
-int CloseConnection(SocketHandle socket) {
-    return CloseSocket(socket);
 }
 
 SocketsSession::SocketsSession() {
@@ -134,7 +122,7 @@ std::string WaitForReply(SocketHandle socket, std::string_view replyCodeSet, con
     while (MinuteBoundariesBetween(start, clock()) < 1) {
         const std::string_view piece = ReceiveWaiting(socket, buffer);
         if (piece.empty()) {
-            // No rest: only whoever else is ready to run goes first, as a server on this machine.
+            // Busy-wait on purpose; yields to other threads and programs.
             std::this_thread::yield();
             continue;
         }

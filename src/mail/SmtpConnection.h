@@ -11,20 +11,15 @@
 
 namespace cvlang {
 
-/// 0 when the sockets can be used.
-int StartSockets();
-int StopSockets();
-
 bool IsIPAddress(const std::string& host);
 /// The host's address in numbers and dots; empty when there is no such host.
 std::string ResolveHostAddress(const std::string& host);
 
-/// The connected socket, or kNoSocket; LastSocketError then tells the reason.
+/// The connected socket, or kNoSocket; LastSocketError then has the reason.
 SocketHandle ConnectToHost(const std::string& host, int port,
                            const std::function<void()>& processPendingEvents);
-int CloseConnection(SocketHandle socket);
 
-/// The sockets library for the time of one delivery. When starting it fails, connecting will tell.
+/// The sockets library for the time of one delivery. When starting it fails, connecting fails.
 class SocketsSession {
   public:
     SocketsSession();
@@ -33,7 +28,7 @@ class SocketsSession {
     SocketsSession& operator=(const SocketsSession&) = delete;
 };
 
-/// A connection that is closed at the latest when its owner goes.
+/// A connection, closed at the latest by its destructor.
 class Connection {
   public:
     Connection() = default;
@@ -73,8 +68,8 @@ class ReplyScanner {
 long MinuteBoundariesBetween(const LocalTime& start, const LocalTime& now);
 
 /// The code that the server replies with; empty when the minute in which the wait started ends
-/// first. So a wait takes from under a second up to a minute, which is meant: administrators know
-/// their servers' time-outs by the minute. Raises an error when the connection fails.
+/// first. Deliberate: so a wait takes from under a second up to a minute. Raises an error when the
+/// connection fails.
 std::string WaitForReply(SocketHandle socket, std::string_view replyCodeSet, const Clock& clock,
                          const LocalTime& start);
 

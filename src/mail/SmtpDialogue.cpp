@@ -14,7 +14,7 @@ namespace {
 constexpr int kAuthLogin = 1;
 
 /// The reply codes that the commands wait for: those of success, then those of failure. A set's
-/// first code wins, wherever in the reply it stands, so the order matters.
+/// first code wins, wherever in the reply it occurs, so the order matters.
 namespace replies {
 
 constexpr std::string_view kGreeting = "220,421";
@@ -41,8 +41,8 @@ constexpr std::string_view kDelivered = "250";
 /// Nothing is waited for.
 constexpr std::string_view kNone;
 
-/// Whether a code is among a list's. The empty code of a wait that ran out is in every list, which
-/// is meant: silence is a refusal wherever refusals are looked for, and an invitation after DATA.
+/// Whether a code is among a list's. Deliberate: the empty code of a wait that ran out is in every
+/// list. Silence is a refusal where refusals are looked for, and an invitation after DATA.
 bool IsIn(std::string_view list, std::string_view code) {
     return list.find(code) != std::string_view::npos;
 }
@@ -81,8 +81,7 @@ bool SmtpDialogue::SMTPConnect() {
         throw MailError(MailErrorNumber::Connect, "SMTPConnect",
                         "Failed to connect to mail server: Windows Sockets error " +
                             std::to_string(LastSocketError()));
-    const std::string code = SMTPProcessClientCommand(connection_.Socket(), "", replies::kGreeting,
-                                                      environment_.clock, message_.ErrorString);
+    const std::string code = Exchange("", replies::kGreeting, "");
     if (code == replies::kGreeted)
         return true;
     message_.ErrorString = "SMTP Server is not contactable for domain: " + server_;
@@ -98,12 +97,11 @@ void SmtpDialogue::Authenticate() {
     if (message_.AuthenticationMode != kAuthLogin || message_.Username.empty() ||
         message_.Password.empty())
         return;
-    std::string code =
-        Command("AUTH LOGIN " + Base64::EncodeString(message_.Username), replies::kAuth);
-    // Any code asks for the password, one of refusal too: old servers refuse the name on the
-    // command's own line and still wait for what follows it.
+    std::string code = Command("AUTH LOGIN " + Base64::EncodeString(message_.Username),
+                               replies::kAuth, "AUTH LOGIN");
+    // Deliberate: any code asks for the password, one of refusal too.
     if (std::atoi(code.c_str()) != 0)
-        code = Command(Base64::EncodeString(message_.Password), replies::kAuth);
+        code = Command(Base64::EncodeString(message_.Password), replies::kAuth, "password");
     if (replies::IsIn(replies::kAuthRefused, code))
         throw MailError(MailErrorNumber::Refused, "AUTH",
                         "Could not Authenticate against remote host; Server returned: " + code);
@@ -137,10 +135,10 @@ void SmtpDialogue::NameRecipients(const std::vector<std::string>& recipients) {
 }
 
 std::string SmtpDialogue::TransferText(std::string text) {
-    // A server that said nothing in time gets the text, too: some answer only once it comes.
+    // Deliberate: without a reply in time the text is sent, too.
     if (!replies::IsIn(replies::kDataInvited, Command("DATA", replies::kData)))
         return {};
-    return Command(std::move(text.append("\r\n.")), replies::kEndOfMessage);
+    return Command(std::move(text.append("\r\n.")), replies::kEndOfMessage, "message text");
 }
 
 bool SmtpDialogue::Report(std::string_view code) {
@@ -153,10 +151,24 @@ bool SmtpDialogue::Report(std::string_view code) {
     return delivered;
 }
 
-std::string SmtpDialogue::Command(std::string line, std::string_view replyCodeSet) {
+std::string SmtpDialogue::Command(std::string line, std::string_view replyCodeSet,
+                                  std::string_view loggedAs) {
     environment_.beforeCommand();
-    return SMTPProcessClientCommand(connection_.Socket(), line.append(kCrLf), replyCodeSet,
-                                    environment_.clock, message_.ErrorString);
+    const std::string firstLine =
+        loggedAs.empty() ? line.substr(0, line.find_first_of(kCrLf)) : std::string(loggedAs);
+    return Exchange(line.append(kCrLf), replyCodeSet, firstLine);
+}
+
+std::string SmtpDialogue::Exchange(std::string_view command, std::string_view replyCodeSet,
+                                   const std::string& loggedAs) {
+    try {
+        return SMTPProcessClientCommand(connection_.Socket(), command, replyCodeSet,
+                                        environment_.clock, message_.ErrorString);
+    } catch (const ReceiveError& error) {
+        log_("Windows Sockets error processing " + loggedAs +
+             " command: " + std::to_string(error.SocketNumber()));
+        throw;
+    }
 }
 
 std::string SmtpDialogue::Route() const {

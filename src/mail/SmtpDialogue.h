@@ -34,7 +34,12 @@ class SmtpDialogue {
     std::string TransferText(std::string text);
     bool Report(std::string_view code);
 
-    std::string Command(std::string line, std::string_view replyCodeSet);
+    /// Sends a line. When receiving the reply fails, the log names the command by its first line or
+    /// by `loggedAs`, which replaces what is secret or long.
+    std::string Command(std::string line, std::string_view replyCodeSet,
+                        std::string_view loggedAs = {});
+    std::string Exchange(std::string_view command, std::string_view replyCodeSet,
+                         const std::string& loggedAs);
     /// The server and the two ends of the message, as the reports name them.
     std::string Route() const;
 

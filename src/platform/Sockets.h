@@ -1,5 +1,5 @@
-// TCP over IPv4, as far as Windows and Linux differ about it. Failures are told by number, as the
-// system numbers them.
+// TCP over IPv4, as far as Windows and Linux differ about it. Failures have the
+// numbers of the system.
 #pragma once
 
 #include <cstddef>
@@ -15,8 +15,8 @@ inline constexpr SocketHandle kNoSocket = -1;
 
 /// Windows wants its sockets library started and cleaned up; on Linux there is nothing to do. 0 on
 /// success.
-int StartSocketLibrary();
-int StopSocketLibrary();
+int StartSockets();
+int StopSockets();
 
 /// The number of the last failure, and a way to set it back after further calls.
 int LastSocketError();
@@ -25,16 +25,18 @@ void SetLastSocketError(int number);
 /// An address as it goes over the wire.
 using AddressNumber = std::uint32_t;
 
-/// The address that a text in numbers and dots stands for; nothing when it is none.
+/// The address of a text in numbers and dots; nothing when it is none.
 std::optional<AddressNumber> AddressFromNumbers(const std::string& text);
+/// Whether a text is an IPv6 address, without brackets.
+bool IsIPv6Address(const std::string& text);
 /// The bytes of a host's first address, looked up by name; empty when it has none.
 std::string FirstAddressOfHost(const std::string& name);
 
 SocketHandle OpenTcpSocket();
-/// Waits until the connection stands. 0 on success. From then on sending fails when the peer takes
+/// Waits until the connection is open. 0 on success. From then on sending fails when the peer takes
 /// nothing for a minute; one that is slow keeps its time.
 int ConnectSocket(SocketHandle socket, AddressNumber address, std::uint16_t port);
-int CloseSocket(SocketHandle socket);
+int CloseConnection(SocketHandle socket);
 
 /// Sends some or all of the bytes and returns how many; negative on failure. A peer that is gone is
 /// a failure, never a signal that ends the program.
@@ -42,7 +44,7 @@ std::ptrdiff_t SendBytes(SocketHandle socket, std::string_view bytes);
 /// How many bytes have come and can be received without waiting.
 std::size_t WaitingBytes(SocketHandle socket);
 /// Receives up to so many bytes; negative on failure. Asked for none, it returns 0 at once and on
-/// both systems still tells when the peer has reset the connection.
+/// both systems still reports that the peer has reset the connection.
 std::ptrdiff_t ReceiveBytes(SocketHandle socket, char* to, std::size_t count);
 
 }  // namespace cvlang

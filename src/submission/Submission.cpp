@@ -1,35 +1,32 @@
 #include "submission/Submission.h"
 
+#include <algorithm>
+
 #include "platform/FolderListing.h"
 #include "platform/Paths.h"
+#include "text/Strings.h"
 #include "translation/StorePaths.h"
 
 namespace cvlang {
 namespace {
-
-std::u16string Joined(std::initializer_list<std::u16string_view> parts) {
-    std::u16string text;
-    for (const std::u16string_view part : parts)
-        text += part;
-    return text;
-}
 
 bool IsMailAddress(std::u16string_view text) {
     const std::size_t at = text.find(u'@');
     return at != text.npos && at + 1 < text.size();
 }
 
-/// An address that stands in no box yet is asked for; one that cannot be right is refused.
-std::optional<AddressFault> FaultOf(AddressBox box, std::u16string_view address,
-                                    std::u16string_view party, std::u16string_view field) {
+std::optional<AddressFault> ValidateAddress(AddressBox box, std::u16string_view address,
+                                            std::u16string_view party, std::u16string_view field) {
     if (IsMailAddress(address))
         return {};
-    const std::u16string invalid =
-        address.empty() ? std::u16string() : Joined({u"Invalid ", party, u" address. "});
-    return AddressFault{
-        box,
-        {Joined({invalid, u"Please specify a valid email address for the '", field, u"' field."}),
-         u"Invalid Address", MessageButtons::Ok, MessageIcon::Exclamation}};
+    std::u16string text;
+    if (!address.empty())
+        text.append(u"Invalid ").append(party).append(u" address. ");
+    text.append(u"Please specify a valid email address for the '")
+        .append(field)
+        .append(u"' field.");
+    return AddressFault{box,
+                        {text, u"Invalid Address", MessageButtons::Ok, MessageIcon::Exclamation}};
 }
 
 }  // namespace
@@ -40,12 +37,11 @@ std::u16string SubmissionSubject(const Selection& selection) {
 }
 
 std::u16string SubmissionBody(const Selection& selection) {
-    constexpr std::u16string_view kGreeting = u"Dear Support Team,\r\n\r\n";
-    constexpr std::u16string_view kAttached =
-        u"I have attached the language token files for the following: \r\n\r\n";
-    return Joined({kGreeting, kAttached, u"Application: \t", selection.application,
-                   u"\r\nBase: \t\t", selection.base, u"\r\nLanguage: \t\t", selection.language,
-                   u"\r\n\r\nRegards,\r\n"});
+    return u"Dear Support Team,\r\n\r\n"
+           u"I have attached the language token files for the following: \r\n\r\n"
+           u"Application: \t" +
+           selection.application + u"\r\nBase: \t\t" + selection.base + u"\r\nLanguage: \t\t" +
+           selection.language + u"\r\n\r\nRegards,\r\n";
 }
 
 std::vector<std::filesystem::path> MapFilesOfBase(const std::filesystem::path& sMapFilePath,
@@ -61,15 +57,17 @@ std::vector<std::filesystem::path> MapFilesOfBase(const std::filesystem::path& s
     return files;
 }
 
-std::optional<AddressFault> FaultOfAddresses(std::u16string_view to, std::u16string_view from) {
-    const auto fault = FaultOf(AddressBox::To, to, u"recipient", u"To");
-    return fault ? fault : FaultOf(AddressBox::From, from, u"sender", u"From");
+std::optional<AddressFault> ValidateMailAddresses(std::u16string_view to,
+                                                  std::u16string_view from) {
+    const auto fault = ValidateAddress(AddressBox::To, to, u"recipient", u"To");
+    return fault ? fault : ValidateAddress(AddressBox::From, from, u"sender", u"From");
 }
 
 UserMessage NothingToSubmit(std::u16string_view base) {
-    // No blank after the base: the text has always been shown so.
-    return {Joined({u"No translated files for the ", base, u"base were available to send."}),
-            u"Send Error", MessageButtons::Ok, MessageIcon::Information};
+    // Deliberate: no blank after the base.
+    return {
+        u"No translated files for the " + std::u16string(base) + u"base were available to send.",
+        u"Send Error", MessageButtons::Ok, MessageIcon::Information};
 }
 
 UserMessage ConfirmSubmission() {
@@ -83,16 +81,23 @@ UserMessage SubmissionSent() {
 }
 
 std::u16string WithMailLineEnds(std::u16string_view text) {
+    constexpr std::u16string_view kLineEnds = u"\r\n\u2028\u2029";
     std::u16string lines;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text.substr(i, 2) == u"\r\n")
+        if (text.substr(i, kCrLf16.size()) == kCrLf16)
             continue;  // the second of the two ends the line
-        if (text[i] == u'\r' || text[i] == u'\n')
-            lines += u"\r\n";
+        if (kLineEnds.find(text[i]) != kLineEnds.npos)
+            lines += kCrLf16;
         else
             lines += text[i];
     }
     return lines;
+}
+
+std::u16string WithoutControls(std::u16string text) {
+    std::replace_if(
+        text.begin(), text.end(), [](char16_t c) { return c < u' '; }, u' ');
+    return text;
 }
 
 }  // namespace cvlang

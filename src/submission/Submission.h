@@ -1,5 +1,4 @@
-// What is said and sent when translations are submitted to the maker by mail, and what the user is
-// told about it.
+// Submitting translations to the maker by mail: the message and the texts that the user sees.
 #pragma once
 
 #include <filesystem>
@@ -8,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/SystemInformation.h"
 #include "run/UserMessages.h"
 #include "translation/Selection.h"
 
@@ -17,10 +17,12 @@ namespace cvlang {
 struct SubmissionTarget {
     std::u16string mailbox;
     std::u16string server;
-    int port = 0;  // 0: the usual one
+    int port = 0;            // 0: the usual one
+    std::u16string fault{};  // why the server cannot be used, for the user; empty when it can
+    Clock clock = SystemClock;
 };
 
-/// What stands for the language when the files of all languages are submitted.
+/// The language in the message when the files of all languages are submitted.
 inline constexpr std::u16string_view kAllLanguages = u"All Languages";
 
 std::u16string SubmissionSubject(const Selection& selection);
@@ -35,21 +37,24 @@ std::vector<std::filesystem::path> MapFilesOfBase(const std::filesystem::path& s
 
 enum class AddressBox { To, From };
 
-/// What is wrong with an address, and the box that it stands in.
+/// What is wrong with an address, and the box that holds it.
 struct AddressFault {
     AddressBox box;
     UserMessage message;
 };
 
 /// The first fault of the two addresses. Any text with something behind its first "@" passes.
-std::optional<AddressFault> FaultOfAddresses(std::u16string_view to, std::u16string_view from);
+std::optional<AddressFault> ValidateMailAddresses(std::u16string_view to, std::u16string_view from);
 
 UserMessage NothingToSubmit(std::u16string_view base);
 UserMessage ConfirmSubmission();
-/// Shown whatever became of the message: whether it went out is in the activity log.
+/// Shown after every attempt. The activity log has the outcome.
 UserMessage SubmissionSent();
 
-/// A text whose lines end as they may, with CR LF at the end of each.
+/// The text with CR LF in the place of every CR LF, CR, LF, U+2028 and U+2029.
 std::u16string WithMailLineEnds(std::u16string_view text);
+
+/// The text with a blank in the place of every C0 control, as headers and addresses need it.
+std::u16string WithoutControls(std::u16string text);
 
 }  // namespace cvlang

@@ -80,8 +80,7 @@ void frmSend::AddButtons(wxSizer& column) {
 void frmSend::SubmitFile(const std::filesystem::path& sMapFilePath,
                          const std::filesystem::path& sLangFilePath, const Selection& selection) {
     SetMessageText(selection);
-    Attach({sMapFilePath, sLangFilePath});
-    ShowModal();
+    Open({sMapFilePath, sLangFilePath});
 }
 
 void frmSend::SubmitAllFiles(const std::filesystem::path& sMapFilePath, Selection selection) {
@@ -92,8 +91,7 @@ void frmSend::SubmitAllFiles(const std::filesystem::path& sMapFilePath, Selectio
         program_.messages.Show(NothingToSubmit(selection.base));
         return;
     }
-    Attach(files);
-    ShowModal();
+    Open(files);
 }
 
 void frmSend::SetMessageText(const Selection& selection) {
@@ -102,9 +100,20 @@ void frmSend::SetMessageText(const Selection& selection) {
     txtBody->ChangeValue(ToWx(SubmissionBody(selection)));
 }
 
+void frmSend::Open(const std::vector<std::filesystem::path>& files) {
+    if (!target_.fault.empty()) {
+        program_.messages.Show(
+            {target_.fault, u"Error", MessageButtons::Ok, MessageIcon::Critical});
+        return;
+    }
+    Attach(files);
+    ShowModal();
+}
+
 /// Starts a new message, which has these attachments and no others.
 void frmSend::Attach(const std::vector<std::filesystem::path>& files) {
     MailEnvironment environment;
+    environment.clock = target_.clock;
     environment.processPendingEvents = RepaintWindows;
     environment.beforeCommand = [this] { program_.progress->Step(); };
     message_ = std::make_unique<Message>(program_.config, program_.logs, std::move(environment));
@@ -118,7 +127,7 @@ void frmSend::Attach(const std::vector<std::filesystem::path>& files) {
 }
 
 bool frmSend::ValidateAddresses() {
-    const auto fault = FaultOfAddresses(txtTo->Text(), txtFrom->Text());
+    const auto fault = ValidateMailAddresses(txtTo->Text(), txtFrom->Text());
     if (!fault)
         return true;
     program_.messages.Show(fault->message);
@@ -132,16 +141,16 @@ void frmSend::OnSend() {
     if (!ValidateAddresses() || program_.messages.Show(ConfirmSubmission()) != MessageAnswer::Yes)
         return;
     Send();
-    // Whatever became of it: users ask the activity log when nothing arrives.
+    // Deliberate: also after a failure, which the activity log has.
     program_.messages.Show(SubmissionSent());
     EndDialog(wxID_OK);
 }
 
 void frmSend::Send() {
     const ProgressScope wait(*program_.progress);
-    message_->MailTo = Utf16ToAnsi(txtTo->Text());
-    message_->MailFrom = Utf16ToAnsi(txtFrom->Text());
-    message_->Subject = Utf16ToAnsi(txtSubject->Text());
+    message_->MailTo = Utf16ToAnsi(WithoutControls(txtTo->Text()));
+    message_->MailFrom = Utf16ToAnsi(WithoutControls(txtFrom->Text()));
+    message_->Subject = Utf16ToAnsi(WithoutControls(txtSubject->Text()));
     message_->MessageBody = Utf16ToAnsi(WithMailLineEnds(FromWx(txtBody->GetValue())));
     message_->Server = Utf16ToAnsi(target_.server);
     message_->ServerPort = target_.port;

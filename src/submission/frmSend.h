@@ -26,12 +26,13 @@ class frmSend : public wxDialog {
     void SubmitFile(const std::filesystem::path& sMapFilePath,
                     const std::filesystem::path& sLangFilePath, const Selection& selection);
 
-    /// The same with all map files of an application base. Without any, the user is told instead.
+    /// The same with all map files of an application base. Without any, a message says so instead.
     void SubmitAllFiles(const std::filesystem::path& sMapFilePath, Selection selection);
 
   private:
     void AddButtons(wxSizer& column);
     void SetMessageText(const Selection& selection);
+    void Open(const std::vector<std::filesystem::path>& files);
     void Attach(const std::vector<std::filesystem::path>& files);
     bool ValidateAddresses();
     void OnSend();

@@ -1,6 +1,4 @@
-#include <chrono>
-#include <ctime>
-#include <thread>
+#include <gmock/gmock.h>
 
 #include "app/MainWindowFixture.h"
 #include "mail/ScriptedPeer.h"
@@ -13,17 +11,16 @@ namespace {
 class Submitting : public MainWindow {
   protected:
     Submitting() {
-        // A wait for the mail server ends with the clock's minute.
-        if (const auto second = std::time(nullptr) % 60; second > 50)
-            std::this_thread::sleep_for(std::chrono::seconds(60 - second));
         fake_.registry.strings[u"Application Directory"] = TextFromPath(folder_);
         PutFile(folder_ / kReferenceMap, std::string("\xFF\xFE\0\r\n.\r\n", 8));
         PutFile(folder_ / kFrenchMap, "x");
         PutFile(folder_ / "NETWebMail" / "default" / "x", "");
     }
 
-    /// Opens the window with a mail server at that port.
-    frmMain& WindowWith(int port) { return Window({{}, {u"t@x", u"127.0.0.1", port}}); }
+    /// Opens the window with a mail server, by whose clock replies are waited for.
+    frmMain& WindowWith(ScriptedPeer& server) {
+        return Window({{}, {u"t@x", u"127.0.0.1", server.Port(), {}, server.ClientsClock()}});
+    }
 
     static void Send(wxDialog& dialog, const std::u16string& to, const std::u16string& from) {
         Type(dialog, "To:", to);
@@ -46,7 +43,7 @@ class Submitting : public MainWindow {
 
 TEST_F(Submitting, SendsWhatTheUserSeesOnceHeAgrees) {
     ScriptedPeer server("220|250|250|250|354|250");
-    Pick(WindowWith(server.Port()), kLanguages, u"French");
+    Pick(WindowWith(server), kLanguages, u"French");
     script_.ExpectDialog("Submit Language Files", [](wxDialog& dialog) {
         EXPECT_EQ(Find<TextBox>(dialog, "To:").Text(), u"t@x");
         EXPECT_EQ(Find<TextBox>(dialog, "Attachments:").GetValue(),
@@ -79,13 +76,16 @@ TEST_F(Submitting, SendsWhatTheUserSeesOnceHeAgrees) {
 
 TEST_F(Submitting, ReportsSuccessThoughTheServerRefuses) {
     ScriptedPeer refusing("421 closed");
-    script_.ExpectDialog("Submit Language Files",
-                         [](wxDialog& dialog) { Send(dialog, u"t@x", u"f@x"); });
+    script_.ExpectDialog("Submit Language Files", [](wxDialog& dialog) {
+        EXPECT_EQ(Find<TextBox>(dialog, "Subject:").GetValue(),
+                  "[Language Token File Submission]: WebMail - default.net (All Languages)");
+        Send(dialog, u"t@x", u"f@x");
+    });
     ExpectQuestion(wxID_YES);
     ExpectSuccess();
-    Choose(WindowWith(refusing.Port()), "Submit", "Submit All Translations");
-    EXPECT_TRUE(
-        fake_.ErrorLog().ends_with("\tSMTP Server is not contactable for domain: 127.0.0.1\r\n"));
+    Choose(WindowWith(refusing), "Submit", "Submit All Translations");
+    EXPECT_THAT(fake_.ErrorLog(),
+                testing::EndsWith("\tSMTP Server is not contactable for domain: 127.0.0.1\r\n"));
 }
 
 struct FailingWait : WaitWindow {
@@ -99,7 +99,7 @@ struct FailingWait : WaitWindow {
 
 TEST_F(Submitting, SurvivesAnErrorAmidTheMail) {
     ScriptedPeer server("220");
-    FailingWait waiting(&WindowWith(server.Port()));
+    FailingWait waiting(&WindowWith(server));
     program_.progress = &waiting;
     script_.ExpectDialog("Submit Language Files", [](wxDialog& dialog) {
         Send(dialog, u"t@x", u"f@x");

@@ -100,7 +100,7 @@ TEST(HtmlToText, MarkupBecomesPlainText) {
         {"</style>1<style>a", "1a"},
         {"<title><title><title>x", "x"},
         {"1<script>if (a<b)</script>2", "12"},
-        {"<tr><td>a<TD x>b</td><div>c<li>d", "\r\na\r\nb\r\nc\r\nd"},
+        {"<tr><td>a<TD x>b</td><div>c<LI x>d", "\r\na\r\nb\r\nc\r\nd"},
         {"<a <b>c>d < e", "c>d < e"},
         {"> <b>1<a <B>c>2", "> 12"}};
     for (const auto& [html, text] : cases)

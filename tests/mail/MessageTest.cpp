@@ -105,9 +105,12 @@ TEST(Message, SetDefaultEmptiesAllButTheFlagsAndWhatIsMissingIsTold) {
     message.AddAttachment("a", "b");
     message.AddHeader("X: y");
     message.AuthenticationMode = 1;
-    message.NoEventLog = true;
+    message.NoEventLog = message.MIMEEncode = message.HTML = true;
     message.SetDefault();
-    EXPECT_TRUE(message.ServerPort == 25 && message.AuthenticationMode == 0 && message.NoEventLog);
+    EXPECT_EQ(message.ServerPort, 25);
+    EXPECT_EQ(message.AuthenticationMode, 0);
+    for (const bool flag : {message.NoEventLog, message.MIMEEncode, message.HTML})
+        EXPECT_TRUE(flag);
     const std::string text = message.ComposeText();
     EXPECT_TRUE(text.starts_with("From: <>\r\nTo: \r\nSubject: \r\n"));
     EXPECT_TRUE(text.ends_with(".MAI@" + Utf16ToAnsi(GetLocalComputerName()) + ">\r\n\r\n"));

@@ -1,6 +1,9 @@
 #include "mail/SmtpDialogue.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <sstream>
 
 #include "MailFixture.h"
 #include "ScriptedPeer.h"
@@ -24,6 +27,15 @@ struct Delivery : ScriptedPeer, MailFixture {
         : ScriptedPeer(script, ending), MailFixture(ClientsClock()) {
         message.Server = "127.0.0.1";
         message.ServerPort = Port();
+    }
+
+    /// The lines of the activity log, without their times.
+    std::vector<std::string> LogEvents() const {
+        std::vector<std::string> events;
+        std::istringstream log(fake.ErrorLog());
+        for (std::string line; std::getline(log, line);)
+            events.push_back(line.substr(line.find('\t') + 1, line.size() - line.find('\t') - 2));
+        return events;
     }
 
     /// What the client sent, with "|" for a line's end and "#" for the message.
@@ -59,24 +71,26 @@ TEST(SmtpDialogue, EveryReplyLeadsToItsConversation) {
         {"user", "220|250|334|235|552", login + mail, kNoSender + "552"},
         {"user", "220|250|500|552|552", login + mail, kNoSender + "552"},
         {"user", "220|250|334|504", login, kNoAccess + "504"},
-        {"user", "220|250|", named, kNoAccess}};
+        {"user", "220|250|", named, kNoAccess},
+        {"no password", "220|250|552", helo + mail, kNoSender + "552"}};
     for (const auto& [to, script, conversation, outcome] : cases) {
         Delivery delivery(script);
-        delivery.message.MailTo = to;
+        delivery.message.MailTo = to.substr(0, to.find(';'));
+        delivery.message.MailCC = to == "t@x;c@x" ? "c@x" : "";
         if (to == address)
             delivery.message.MailFrom = address;
         delivery.message.MailBCC = to == "t@x;c@x" ? "T@X;b@x" : "";
         delivery.message.AuthenticationMode = to == "t@x" ? 0 : 1;
-        delivery.message.Username = to == "t@x" || to == "user" ? "user" : "";
-        delivery.message.Password = "pass";
+        delivery.message.Username = to != address && to != "t@x;c@x" ? "user" : "";
+        delivery.message.Password = to == "no password" ? "" : "pass";
         const bool sent = outcome.rfind("Sent", 0) == 0;
         EXPECT_EQ(delivery.message.SendMessage(), sent ? 1 : 0);
         EXPECT_EQ(delivery.message.ErrorString, outcome);
-        EXPECT_TRUE(delivery.fake.ErrorLog().ends_with("\t" + outcome + "\r\n"));
-        EXPECT_EQ(
-            delivery.fake.ErrorLog().find("\tRecipient failed to server (127.0.0.1) Msg From: "
-                                          "f@here Msg To: t@x\r\n") != std::string::npos,
-            to == "t@x;c@x");
+        EXPECT_EQ(delivery.LogEvents().back(), outcome);
+        EXPECT_EQ(delivery.LogEvents().front(),
+                  to != "t@x;c@x" ? outcome
+                                  : "Recipient failed to server (127.0.0.1) Msg From: f@here Msg "
+                                    "To: t@x");
         EXPECT_EQ(delivery.message.FailedRecipients, to != "t@x;c@x"           ? ""
                                                      : outcome == kNoRecipient ? "t@x,c@x,b@x"
                                                                                : "t@x,b@x");
@@ -85,19 +99,50 @@ TEST(SmtpDialogue, EveryReplyLeadsToItsConversation) {
     }
 }
 
+TEST(SmtpDialogue, EachCommandHasItsOwnCodesOfRefusal) {
+    const std::tuple<std::string, std::vector<std::string>, std::string> cases[] = {
+        {"220|250|", {"552", "451", "452", "500", "501", "421"}, kNoSender + "*"},
+        {"220|250|", {"550", "553", "554"}, kNoSender},  // which MAIL does not wait for
+        {"220|250|250|",
+         {"550", "551", "552", "553", "450", "451", "452", "500", "501", "503", "421"},
+         kNoRecipient},
+        {"220|250|250|250|", {"250 354|250", "354 500|554 250"}, kSent + "t@x"},
+        {"220|250|250|250|", {"250", "500", "503", "354|451", "354|500"}, kFailed},
+        {"", {"220 421|250|250|250|354|250"}, kSent + "t@x"},
+        {"", {"421", "554"}, kNoGreeting}};
+    for (const auto& [start, codes, outcome] : cases) {
+        for (const std::string& code : codes) {
+            Delivery delivery(start + code);
+            delivery.message.SendMessage();
+            EXPECT_EQ(delivery.message.ErrorString, Replaced(outcome, "*", code)) << start << code;
+        }
+    }
+}
+
 TEST(SmtpDialogue, APeerThatIsGoneNeverEndsTheProgram) {
-    const std::string script = "220|250|250|250|354|250";
-    for (std::size_t stage = 0; stage < 6; ++stage) {
+    const std::pair<std::string, std::string> stages[] = {
+        {"", ""},
+        {"220", "HELO me"},
+        {"220|250", "AUTH LOGIN"},
+        {"220|250|334", "password"},
+        {"220|250|334|235", "MAIL FROM:<f@here>"},
+        {"220|250|334|235|250", "RCPT TO:<t@x>"},
+        {"220|250|334|235|250|250", "DATA"},
+        {"220|250|334|235|250|250|354", "message text"}};
+    for (const auto& [script, command] : stages) {
         for (const Ending ending : {Ending::Close, Ending::Reset}) {
-            Delivery delivery(script.substr(0, stage == 0 ? 0 : stage * 4 - 1), ending);
+            Delivery delivery(script, ending);
+            delivery.message.AuthenticationMode = 1;
+            delivery.message.Username = delivery.message.Password = "secret";
             EXPECT_EQ(delivery.message.SendMessage(), 0);
             const std::string& outcome = delivery.message.ErrorString;
-            EXPECT_TRUE(outcome.starts_with("Windows Sockets error 1") || ending == Ending::Close ||
-                        !kNetworkIsComplete)
-                << stage << outcome;
-            const std::string number = outcome.substr(outcome.rfind(' ') + 1) + "\r\n";
-            EXPECT_TRUE(delivery.fake.ErrorLog().ends_with(
-                outcome.starts_with("Windows") ? " command: " + number : "\t" + outcome + "\r\n"));
+            const bool failed = outcome.starts_with("Windows Sockets error 1");
+            EXPECT_TRUE(failed || ending == Ending::Close || !kNetworkIsComplete)
+                << command << ": " << outcome;
+            EXPECT_EQ(delivery.LogEvents().back(),
+                      failed ? "Windows Sockets error processing " + command +
+                                   " command: " + outcome.substr(outcome.rfind(' ') + 1)
+                             : outcome);
         }
     }
     Delivery delivery("220|250|250|250|354", Ending::ResetAtOnce);
@@ -111,10 +156,14 @@ TEST(SmtpDialogue, AServerThatCannotBeReachedIsReported) {
     for (const char* server : {"127.0.0.1", "", "no-such-host.invalid"}) {
         mail.message.Server = server;
         EXPECT_EQ(mail.message.SendMessage(), 0);
-        EXPECT_TRUE(mail.message.ErrorString.starts_with(
-            "Failed to connect to mail server: Windows Sockets error 1"));
+        EXPECT_THAT(
+            mail.message.ErrorString,
+            testing::StartsWith("Failed to connect to mail server: Windows Sockets error 1"));
     }
     EXPECT_EQ(mail.eventsProcessed, 2);
+    mail.message.ServerPort = 0;
+    mail.message.SendMessage();
+    EXPECT_EQ(mail.message.ServerPort, 25);
 }
 
 TEST(SmtpReply, TheSetsOrderDecidesAmongTheCodesUntilTheMinuteEnds) {

@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
 """A mail server for one message: receive_mail.py FOLDER.
 
-Wants the login user and secret. Prints its port, then who the message is from and to, some headers
-and the parts; of an attachment whether it is the file of its name in the folder, byte by byte."""
+Wants the login user and secret. Prints its port, then who the message is from and to, some headers,
+the zone and whether the date is right, and the parts; of an attachment whether it is the file of its name in the folder, byte by byte."""
 import asyncio
+import datetime
 import email
+import email.utils
 import logging
 import pathlib
 import sys
@@ -39,6 +41,9 @@ async def main(folder):
     message = email.message_from_bytes(envelope.content)
     print(envelope.mail_from, *envelope.rcpt_tos)
     print(*(" ".join(message[name].split()) for name in ("From", "To", "Subject", "X-Mailer")))
+    sent = email.utils.parsedate_to_datetime(message["Date"])
+    late = datetime.datetime.now(datetime.timezone.utc) - sent
+    print(sent.strftime("%z"), "now" if abs(late.total_seconds()) < 600 else late)
     for part in message.walk():
         content = part.get_payload(decode=True)
         if part.get_filename():

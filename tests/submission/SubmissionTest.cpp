@@ -7,6 +7,8 @@
 namespace cvlang {
 namespace {
 
+using namespace std::string_literals;
+
 TEST(Submission, TheMessageTellsWhatIsAttached) {
     EXPECT_EQ(SubmissionBody({u"WebMail", u"default.net", u"French"}),
               u"Dear Support Team,\r\n\r\nI have attached the language token files for the "
@@ -39,9 +41,19 @@ TEST(Submission, TheFirstFaultyAddressIsTold) {
         {u"a@b", u"", ask + u"From' field."},
         {u"a@b", u"a@", u"Invalid sender address. " + ask + u"From' field."}};
     for (const auto& [to, from, text] : cases) {
-        const auto fault = FaultOfAddresses(to, from);
+        const auto fault = ValidateMailAddresses(to, from);
         EXPECT_EQ(fault ? fault->message.text : u"", text);
     }
+}
+
+TEST(Submission, LinesOfTheBodyEndWithCrLfAndHeadersHoldNoControls) {
+    const std::pair<std::u16string, std::u16string> cases[] = {
+        {u"a\rb\nc\r\nd\n\re", u"a\r\nb\r\nc\r\nd\r\n\r\ne"},
+        {u"a\u2028b\u2029", u"a\r\nb\r\n"},
+        {u"a\tb\u0085c", u"a\tb\u0085c"}};
+    for (const auto& [text, lines] : cases)
+        EXPECT_EQ(WithMailLineEnds(text), lines);
+    EXPECT_EQ(WithoutControls(u"a\x01z\x1F @\0b\u00E9"s), u"a z  @ b\u00E9");
 }
 
 }  // namespace

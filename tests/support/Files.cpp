@@ -1,6 +1,8 @@
 #include "support/Files.h"
 
 #include <chrono>
+#include <cstdlib>
+#include <deque>
 #include <fstream>
 #include <iterator>
 
@@ -51,6 +53,11 @@ void SetReadOnly(const fs::path& path, bool readOnly) {
 
 bool IsReadOnly(const fs::path& path) {
     return (fs::status(path).permissions() & fs::perms::owner_write) == fs::perms::none;
+}
+
+void SetVariable(const std::string& name, const std::string& value) {
+    static std::deque<std::string> kept;  // the environment refers to them
+    PUTENV(kept.emplace_back(name + "=" + value).data());
 }
 
 }  // namespace cvlang

@@ -37,4 +37,7 @@ std::string Utf16Bytes(std::u16string_view text);
 void SetReadOnly(const std::filesystem::path& path, bool readOnly);
 bool IsReadOnly(const std::filesystem::path& path);
 
+/// Sets a variable of the environment; an empty value takes it away.
+void SetVariable(const std::string& name, const std::string& value);
+
 }  // namespace cvlang

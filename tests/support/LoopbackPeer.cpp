@@ -2,30 +2,37 @@
 
 #include <stdexcept>
 
-#include "SocketHeaders.h"
+#include "NativeSockets.h"
 
 namespace cvlang {
 
-const bool kNetworkIsComplete = kIsComplete;
+const bool kNetworkIsComplete = NETWORK_IS_COMPLETE;
 
-LoopbackListener::LoopbackListener() {
-    StartSocketLibrary();
-    socket_ = OpenTcpSocket();
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    auto* const name = reinterpret_cast<sockaddr*>(&address);
-    const auto socket = static_cast<NativeSocket>(socket_);
-    if (bind(socket, name, size) != 0 || listen(socket, 1) != 0 ||
-        getsockname(socket, name, &size) != 0)
-        throw std::runtime_error("no port on this machine can be listened to");
-    port_ = ntohs(address.sin_port);
+LoopbackListener::LoopbackListener(const char* address) {
+    StartSockets();
+    addrinfo hints{};
+    hints.ai_socktype = SOCK_STREAM;
+    addrinfo* found = nullptr;
+    sockaddr_storage name{};
+    socklen_t size = sizeof name;
+    auto* const bound = reinterpret_cast<sockaddr*>(&name);
+    if (getaddrinfo(address, "0", &hints, &found) != 0)
+        throw std::runtime_error("the system does not know the form of this address");
+    const auto socket = ::socket(found->ai_family, kSocketType, IPPROTO_TCP);
+    socket_ = static_cast<SocketHandle>(socket);
+    const bool listens =
+        bind(socket, found->ai_addr, static_cast<socklen_t>(found->ai_addrlen)) == 0 &&
+        listen(socket, 1) == 0 && getsockname(socket, bound, &size) == 0;
+    freeaddrinfo(found);
+    if (!listens)
+        throw std::runtime_error("no port of this address can be listened to");
+    // At the same place for both families.
+    port_ = ntohs(reinterpret_cast<const sockaddr_in*>(bound)->sin_port);
 }
 
 LoopbackListener::~LoopbackListener() {
-    CloseSocket(socket_);
-    StopSocketLibrary();
+    CloseConnection(socket_);
+    StopSockets();
 }
 
 SocketHandle LoopbackListener::Accept() const {
@@ -43,7 +50,7 @@ void ResetConnection(SocketHandle socket) {
     const linger atOnce{1, 0};
     setsockopt(static_cast<NativeSocket>(socket), SOL_SOCKET, SO_LINGER,
                reinterpret_cast<const char*>(&atOnce), sizeof atOnce);
-    CloseSocket(socket);
+    CloseConnection(socket);
 }
 
 }  // namespace cvlang

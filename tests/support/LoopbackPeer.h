@@ -12,7 +12,7 @@ namespace cvlang {
 /// Listens on a free port.
 class LoopbackListener {
   public:
-    LoopbackListener();
+    explicit LoopbackListener(const char* address = "127.0.0.1");
     ~LoopbackListener();
     LoopbackListener(const LoopbackListener&) = delete;
     LoopbackListener& operator=(const LoopbackListener&) = delete;
@@ -37,11 +37,12 @@ void ResetConnection(SocketHandle socket);
 class LoopbackPeer {
   public:
     /// What is served runs in a thread of its own, once the client is there.
-    explicit LoopbackPeer(std::function<void(LoopbackPeer&)> serve)
-        : thread_([this, serve = std::move(serve)] {
+    explicit LoopbackPeer(std::function<void(LoopbackPeer&)> serve,
+                          const char* address = "127.0.0.1")
+        : listener_(address), thread_([this, serve = std::move(serve)] {
               client = listener_.Accept();
               serve(*this);
-              CloseSocket(client);
+              CloseConnection(client);
           }) {}
     ~LoopbackPeer() { Received(); }
 
@@ -79,14 +80,17 @@ class LoopbackPeer {
 /// A web server: the connection ends with the answer, as a server's that is asked in HTTP 1.0.
 struct WebPeer : LoopbackPeer {
     /// The answer is given to a request with this body.
-    explicit WebPeer(const std::string& answer, const std::string& body = "")
-        : LoopbackPeer([answer, body](LoopbackPeer& peer) {
-              peer.ReceiveUntil("\r\n\r\n" + body);
-              for (std::string_view rest = answer; !rest.empty();) {
-                  const std::ptrdiff_t sent = SendBytes(peer.client, rest);
-                  rest.remove_prefix(sent < 0 ? rest.size() : static_cast<std::size_t>(sent));
-              }
-          }) {}
+    explicit WebPeer(const std::string& answer, const std::string& body = "",
+                     const char* address = "127.0.0.1")
+        : LoopbackPeer(
+              [answer, body](LoopbackPeer& peer) {
+                  peer.ReceiveUntil("\r\n\r\n" + body);
+                  for (std::string_view rest = answer; !rest.empty();) {
+                      const std::ptrdiff_t sent = SendBytes(peer.client, rest);
+                      rest.remove_prefix(sent < 0 ? rest.size() : static_cast<std::size_t>(sent));
+                  }
+              },
+              address) {}
 };
 
 }  // namespace cvlang

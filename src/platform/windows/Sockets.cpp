@@ -1,19 +1,17 @@
 #include "platform/Sockets.h"
 
-#include <winsock2.h>
+#include "NativeSockets.h"
 
 #include <algorithm>
 
 namespace cvlang {
 namespace {
 
-SOCKET Native(SocketHandle socket) {
+NativeSocket Native(SocketHandle socket) {
     return static_cast<SOCKET>(socket);
 }
 
-constexpr DWORD kSendPatience = 60000;  // milliseconds
-
-/// The calls count in int. A send's patience is for all of its bytes, so they must be few.
+/// The calls count in int. A send's time-out is for all of its bytes, so they must be few.
 int Limited(std::size_t size) {
     constexpr std::size_t kMost = 1 << 16;
     return static_cast<int>(std::min(size, kMost));
@@ -37,12 +35,12 @@ std::ptrdiff_t ReceiveNothing(SOCKET socket) {
 
 }  // namespace
 
-int StartSocketLibrary() {
+int StartSockets() {
     WSADATA data{};
     return WSAStartup(MAKEWORD(1, 1), &data);
 }
 
-int StopSocketLibrary() {
+int StopSockets() {
     return WSACleanup();
 }
 
@@ -54,37 +52,7 @@ void SetLastSocketError(int number) {
     WSASetLastError(number);
 }
 
-std::optional<AddressNumber> AddressFromNumbers(const std::string& text) {
-    const unsigned long address = inet_addr(text.c_str());
-    return address == INADDR_NONE ? std::nullopt : std::optional<AddressNumber>(address);
-}
-
-std::string FirstAddressOfHost(const std::string& name) {
-    const hostent* host = gethostbyname(name.c_str());
-    if (host == nullptr || host->h_addr_list[0] == nullptr)
-        return {};
-    return {host->h_addr_list[0], static_cast<std::size_t>(host->h_length)};
-}
-
-SocketHandle OpenTcpSocket() {
-    return static_cast<SocketHandle>(socket(AF_INET, SOCK_STREAM, IPPROTO_TCP));
-}
-
-int ConnectSocket(SocketHandle socket, AddressNumber address, std::uint16_t port) {
-    sockaddr_in peer{};
-    peer.sin_family = AF_INET;
-    peer.sin_port = htons(port);
-    peer.sin_addr.s_addr = address;
-    if (connect(Native(socket), reinterpret_cast<const sockaddr*>(&peer), sizeof peer) != 0)
-        return SOCKET_ERROR;
-    // Without it only the patience is missing.
-    [[maybe_unused]] const int ignored =
-        setsockopt(Native(socket), SOL_SOCKET, SO_SNDTIMEO,
-                   reinterpret_cast<const char*>(&kSendPatience), sizeof kSendPatience);
-    return 0;
-}
-
-int CloseSocket(SocketHandle socket) {
+int CloseConnection(SocketHandle socket) {
     return closesocket(Native(socket));
 }
 

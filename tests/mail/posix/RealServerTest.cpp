@@ -5,7 +5,8 @@
 #include <cstdio>
 #include <random>
 
-#include "../MailFixture.h"
+#include "mail/Message.h"
+#include "support/FakeProgram.h"
 
 namespace cvlang {
 namespace {
@@ -44,36 +45,40 @@ class RealServer {
 };
 
 TEST(RealServer, ReceivesBothFormsOfTheBodyAndEveryAttachmentByteByByte) {
-    MailFixture mail;
-    mail.message.MailTo = "a@x;b@x";
-    mail.message.MailToDisplayName = "A;B";
-    mail.message.MailBCC = "c@x";
-    mail.message.Subject = "[Files]:";
-    mail.message.AuthenticationMode = 1;
-    mail.message.Username = "user";
-    mail.message.Password = "secret";
-    mail.message.ContentType = "text/html;";
-    mail.message.MessageBody = "<p>a<br>b";
-    mail.message.NoEventLog = true;
+    // Summer time all the year, five hours east of UTC.
+    SetVariable("TZ", "WINTER-3SUMMER-5,J1/0,J365/24");
+    const FakeProgram fake;
+    Message message(fake.config, fake.logs);
+    message.MailFrom = "f@here";
+    message.MailTo = "a@x;b@x";
+    message.MailToDisplayName = "A;B";
+    message.MailBCC = "c@x";
+    message.Subject = "[Files]:";
+    message.AuthenticationMode = 1;
+    message.Username = "user";
+    message.Password = "secret";
+    message.ContentType = "text/html;";
+    message.MessageBody = "<p>a<br>b";
+    message.NoEventLog = true;
     std::string expected =
-        "f@here a@x b@x c@x\n<f@here> \"A\" <a@x>, \"B\" <b@x> [Files]: Corvane\n"
+        "f@here a@x b@x c@x\n<f@here> \"A\" <a@x>, \"B\" <b@x> [Files]: Corvane\n+0500 now\n"
         "multipart/mixed None\nmultipart/alternative None\ntext/plain b'a\\r\\nb\\r\\n'\n"
         "text/html b'<p>a<br>b\\r\\n'\n";
     std::mt19937 random(1);
-    for (const std::size_t size : {0U, 1U, 56U, 57U, 58U, 113U, 114U, 115U, 20U << 20U}) {
+    for (const std::size_t size : {0U, 1U, 56U, 57U, 58U, 113U, 114U, 115U, 5U << 20U}) {
         const std::string name = std::to_string(size) + ".map";
         std::string bytes(size, '\0');
         std::generate(bytes.begin(), bytes.end(),
                       [&random] { return static_cast<char>(random()); });
-        PutFile(mail.fake.folder / name, bytes);
-        mail.message.AddAttachment(mail.fake.folder / name, "");
+        PutFile(fake.folder / name, bytes);
+        message.AddAttachment(fake.folder / name, "");
         expected += "application/octet-stream ('" + name + "', True)\n";
     }
-    RealServer server(mail.fake.folder.Path());
-    mail.message.ServerPort = server.Port();
-    EXPECT_EQ(mail.message.SendMessage(), 1) << mail.message.ErrorString;
+    RealServer server(fake.folder.Path());
+    message.ServerPort = server.Port();
+    EXPECT_EQ(message.SendMessage(), 1) << message.ErrorString;
     EXPECT_EQ(server.Report(), expected);
-    EXPECT_EQ(mail.fake.ErrorLog(), "(no file)");
+    EXPECT_EQ(fake.ErrorLog(), "(no file)");
 }
 
 }  // namespace
