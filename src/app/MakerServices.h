@@ -1,4 +1,4 @@
-// The servers of the maker, fixed when the program is built.
+// The servers of the maker.
 #pragma once
 
 #include "download/TokenFileFetch.h"
@@ -12,7 +12,8 @@ struct MakerServices {
 };
 
 /// The built-in servers, unless the environment names others in CORVANE_DISTRIBUTION_SERVER and
-/// CORVANE_SUBMISSION_SERVER, as HOST or HOST:PORT.
+/// CORVANE_SUBMISSION_SERVER, as HOST or HOST:PORT, an IPv6 address in brackets. A text of another
+/// form is a fault of the service.
 MakerServices ConfiguredServices();
 
 }  // namespace cvlang

@@ -19,7 +19,7 @@ std::u16string Name(const Selection& selection) {
     return selection.application + u"[" + selection.base + u"]";
 }
 
-// The wording, "to the this language" included, is what users and their documentation know.
+// Deliberate: "to the this language".
 UserMessage OverwriteQuestion(const Selection& selection) {
     return {u"You have requested to download the default/current " + selection.language +
                 u" translation table for " + Name(selection) +
@@ -39,15 +39,20 @@ std::string Download(Program& program, const DistributionServer& server, std::u1
     return HttpGet(path, server.host, server.port, [&program] { program.progress->Step(); });
 }
 
-/// Each pair of bytes is a character already; what is missing is the mark in front of them.
-std::string Content(const std::string& body, bool unicode) {
-    return unicode ? std::string(kUtf16ByteOrderMark) + body : body;
+/// Each pair of bytes is a character already. A single last byte is none.
+void MakeUtf16File(std::string& bytes) {
+    bytes.resize(bytes.size() / 2 * 2);
+    bytes.insert(0, kUtf16ByteOrderMark);
 }
 
 }  // namespace
 
 void FetchDefaultTranslation(Program& program, const DistributionServer& server,
                              const Selection& selection) {
+    if (!server.fault.empty()) {
+        program.messages.Show({server.fault, u"Error", MessageButtons::Ok, MessageIcon::Critical});
+        return;
+    }
     if (program.messages.Show(OverwriteQuestion(selection)) != MessageAnswer::Yes)
         return;
     const std::u16string symbol = LanguageAbbreviation(program.config, selection);
@@ -76,15 +81,17 @@ bool DownloadTokenFile(Program& program, const DistributionServer& server,
     const std::filesystem::path file = FindExisting(PathFromText(local));
     if (IsProtected(program.config, file))
         return true;
-    const std::string body = Download(program, server, sServerPath);
+    std::string body = Download(program, server, sServerPath);
     if (body.starts_with(kErrorPage)) {
-        // The place for a name between the two blanks has never been filled.
+        // Deliberate: two blanks, with nothing between them.
         program.messages.Show({u"Could not access File for  from the Server. File=" + local});
         return false;
     }
+    if (bUnicode)
+        MakeUtf16File(body);
     const ProcessLock lock(file.parent_path());
     if (RemoveFile(file))
-        WriteFile(file, Content(body, bUnicode));
+        WriteFile(file, body);
     return true;
 }
 

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <deque>
 #include <numeric>
 #include <regex>
 #include <set>
@@ -14,8 +15,9 @@
 namespace cvlang {
 namespace {
 
-/// WinINet writes blanks, and puts the lines in order, in its own way.
-std::set<std::string> LinesOf(const std::string& request) {
+/// WinINet writes blanks and the usual port, and puts the lines in order, in its own way.
+std::set<std::string> LinesOf(std::string request) {
+    request = std::regex_replace(request, std::regex(":80/"), "/");
     std::istringstream text(std::regex_replace(request, std::regex("%20"), " "));
     std::set<std::string> lines;
     for (std::string line; std::getline(text, line);)
@@ -50,7 +52,11 @@ TEST(HttpClient, ReturnsEveryByteOfABodyOfAnySize) {
         std::iota(body.begin(), body.end(), '\0');
         WebPeer peer("HTTP/1.0 200 OK\r\nContent-Length: " + std::to_string(size) + "\r\n\r\n" +
                      body);
-        EXPECT_TRUE(HttpGet(u"/", u"localhost", peer.Port()) == body) << size;
+        const std::string received = HttpGet(u"/", u"localhost", peer.Port());
+        const auto differing =
+            std::mismatch(received.begin(), received.end(), body.begin(), body.end());
+        EXPECT_EQ(differing.first - received.begin(), static_cast<std::ptrdiff_t>(size));
+        EXPECT_EQ(received.size(), size);
     }
 }
 
@@ -58,6 +64,7 @@ TEST(HttpClient, ReturnsWhatCameWhateverFails) {
     const std::pair<const char*, const char*> cases[] = {
         {"HTTP/1.0 404 Not Found\r\n\r\ngone", "gone"},
         {"HTTP/1.0 200 OK\r\nContent-Length: 8\r\n\r\nhalf", "half"},
+        {"no header", kNetworkIsComplete ? "no header" : ""},
         {"", ""}};
     for (const auto& [answer, body] : cases) {
         WebPeer peer(answer);
@@ -73,7 +80,94 @@ TEST(HttpClient, ReturnsWhatCameWhateverFails) {
         EXPECT_EQ(HttpGet(u"/", host, 1), "");
 }
 
+/// An answer that redirects to a port of this computer.
+std::string RedirectTo(std::uint16_t port, const std::string& path = "/") {
+    return "HTTP/1.0 301 Moved\r\nLocation: http://127.0.0.1:" + std::to_string(port) + path +
+           "\r\n\r\n<html>moved</html>";
+}
+
+TEST(HttpClient, FollowsRedirectsWithRequestsOfTheSameForm) {
+    WebPeer last("HTTP/1.0 200 OK\r\n\r\nmap");
+    WebPeer first(RedirectTo(last.Port(), "/new/Web Mail.map"));
+    EXPECT_EQ(HttpGet(u"/old.map", u"127.0.0.1", first.Port()), "map");
+    std::set<std::string> expected = LinesOf(first.Received());
+    expected.erase("GET /old.map HTTP/1.0\r");
+    expected.erase("Host: 127.0.0.1:" + std::to_string(first.Port()) + "\r");
+    expected.insert({"GET /new/Web Mail.map HTTP/1.0\r",
+                     "Host: 127.0.0.1:" + std::to_string(last.Port()) + "\r"});
+    EXPECT_EQ(LinesOf(last.Received()), expected);
+}
+
+TEST(HttpClient, StopsAtTheEleventhAnswerAndAtOtherSchemes) {
+    if (!kNetworkIsComplete)
+        GTEST_SKIP() << "WinINet has limits of its own";
+    std::deque<WebPeer> peers;
+    peers.emplace_back(RedirectTo(1));
+    while (peers.size() < 11)
+        peers.emplace_back(RedirectTo(peers.back().Port()));
+    EXPECT_EQ(HttpGet(u"/", u"127.0.0.1", peers.back().Port()), "<html>moved</html>");
+    WebPeer other("HTTP/1.0 302 Found\r\nLocation: ftp://127.0.0.1/\r\n\r\nother");
+    EXPECT_EQ(HttpGet(u"/", u"127.0.0.1", other.Port()), "other");
+}
+
+/// Tells the system of a proxy: in the environment, and in the registry of Windows.
+void SetProxy(const std::string& url) {
+    SetVariable("http_proxy", url);
+    if (kNetworkIsComplete)
+        return;
+    const std::string add =
+        "reg add \"HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\" /f /v ";
+    const std::string enabled = url.empty() ? "0" : "1";
+    EXPECT_EQ(std::system((add + "ProxyEnable /t REG_DWORD /d " + enabled + " > nul").c_str()), 0);
+    EXPECT_EQ(std::system((add + "ProxyServer /d \"" + url + "\" > nul").c_str()), 0);
+}
+
+TEST(HttpClient, AsksTheProxyOfTheSystemForTheWholeUrl) {
+    WebPeer proxy("HTTP/1.0 200 OK\r\n\r\nfrom the proxy");
+    SetProxy("http://127.0.0.1:" + std::to_string(proxy.Port()));
+    EXPECT_EQ(HttpGet(u"/a b", u"www.corvane.invalid"), "from the proxy");
+    EXPECT_TRUE(LinesOf(proxy.Received()).contains("GET http://www.corvane.invalid/a b HTTP/1.0\r"))
+        << proxy.Received();
+    if (!kNetworkIsComplete)
+        SetProxy("");
+    WebPeer direct("HTTP/1.0 200 OK\r\n\r\ndirect");
+    SetVariable("no_proxy", "x.org, 0.0.1");
+    EXPECT_EQ(HttpGet(u"/", u"127.0.0.1", direct.Port()), "direct");
+    SetProxy("");
+    SetVariable("no_proxy", "");
+}
+
+TEST(HttpClient, ReachesAServerOverIPv6) {
+    WebPeer peer("HTTP/1.0 200 OK\r\n\r\nsix", "", "::1");
+    EXPECT_EQ(HttpGet(u"/", u"::1", peer.Port()), "six");
+    EXPECT_TRUE(
+        LinesOf(peer.Received()).contains("Host: [::1]:" + std::to_string(peer.Port()) + "\r"))
+        << peer.Received();
+}
+
+/// Pauses before each part of its answer.
+LoopbackPeer LatePeer(int seconds) {
+    return LoopbackPeer([seconds](LoopbackPeer& peer) {
+        peer.ReceiveUntil("\r\n\r\n");
+        for (const char* part : {"HTTP/1.0 200 OK\r\n\r\n", "late", "r"}) {
+            std::this_thread::sleep_for(std::chrono::seconds(seconds));
+            SendBytes(peer.client, part);
+        }
+    });
+}
+
+TEST(HttpClient, WaitsForALateServerAndSaysSoMoreThanOnceASecond) {
+    LoopbackPeer late = LatePeer(2);
+    int steps = 0;
+    EXPECT_EQ(HttpGet(u"/", u"127.0.0.1", late.Port(), [&steps] { ++steps; }), "later");
+    EXPECT_GT(steps, 6);
+    LoopbackPeer other = LatePeer(1);
+    EXPECT_THROW(HttpGet(u"/", u"127.0.0.1", other.Port(), [] { throw std::bad_alloc(); }),
+                 std::bad_alloc);
+}
+
 constexpr char kFile[] = "WebMail-default-tokens-fr.map";
+const Selection kFrench{u"WebMail", u"default", u"French"};
 
 /// Fetches a language's file of WebMail default from a web server; returns the request's first
 /// line.
@@ -92,17 +186,21 @@ TEST(TokenFileFetch, EveryAnswerButAnErrorPageReplacesTheFile) {
         {"", ""},
         {"<!doctype html public", "<!doctype html public"},
         {"x<!DOCTYPE HTML PUBLIC", "x<!DOCTYPE HTML PUBLIC"},
+        {"<!DOCTYPE HTML>", "<!DOCTYPE HTML>"},
         {"<!DOCTYPE HTML PUBLIC \"-//W3C//DTD\">", "mine"}};
     for (const auto& [body, after] : cases) {
         PutFile(kFile, "mine");
+        std::filesystem::create_hard_link(kFile, "backup");
         EXPECT_EQ(Fetch(fake, body),
                   "GET /Tools/WebMail/bases/default/Languages/" + std::string(kFile) + " HTTP/1.0");
         EXPECT_EQ(FileBytes(kFile), after);
+        EXPECT_EQ(FileBytes("backup"), "mine");  // the file was deleted, not written over
+        std::filesystem::remove("backup");
     }
-    ASSERT_EQ(fake.messages.shown.size(), 6U);
-    EXPECT_EQ(fake.messages.shown[4].text, u"Could not access File for  from the Server. File=" +
+    ASSERT_EQ(fake.messages.shown.size(), 7U);
+    EXPECT_EQ(fake.messages.shown[5].text, u"Could not access File for  from the Server. File=" +
                                                TextFromPath(fake.folder / kFile));
-    EXPECT_EQ(fake.messages.shown[5].text, u"Unable to fetch language token");
+    EXPECT_EQ(fake.messages.shown[6].text, u"Unable to fetch language token");
 }
 
 TEST(TokenFileFetch, AFileThatIsReadOnlyOrAuthoredHereIsNotOverwritten) {
@@ -113,29 +211,64 @@ TEST(TokenFileFetch, AFileThatIsReadOnlyOrAuthoredHereIsNotOverwritten) {
     EXPECT_EQ(FileBytes(kFile), "mine");
     SetReadOnly(kFile, false);
     fake.registry.numbers[u"Language Authoring"] = 1;
-    FetchDefaultTranslation(fake.program, {u"127.0.0.1", 1}, {u"WebMail", u"default", u"French"});
+    FetchDefaultTranslation(fake.program, {u"127.0.0.1", 1}, kFrench);
     EXPECT_EQ(FileBytes(kFile), "mine");
-    fake.registry.numbers[u"Language Authoring"] = 0;
+    EXPECT_EQ(fake.messages.shown.size(), 2U);  // the questions
     std::filesystem::remove(kFile);
-    for (const char* spelling : {"WebMail-DEFAULT-tokens-fr.map", "webmail-default-tokens-fr.map"})
-        PutFile(spelling, "mine");
     Fetch(fake, "fetched");
-    std::string fetched;
-    for (const auto& file : std::filesystem::directory_iterator("."))
-        fetched += FileBytes(file.path());
-    EXPECT_NE(fetched.find("fetched"), std::string::npos) << fetched;
+    EXPECT_EQ(FileBytes(kFile), "fetched");
+    fake.registry.numbers[u"Language Authoring"] = 2;
+    PutFile("WEBMAIL-default-tokens-fr.map", "another spelling");
+    Fetch(fake, "fetched again");
+    EXPECT_EQ(FileBytes(kFile), "fetched again");
 }
 
-TEST(TokenFileFetch, AnUnknownLanguageIsWarnedOfAndTheSwitchWritesUtf16) {
+TEST(TokenFileFetch, NothingIsFetchedWithoutConsentOrAServer) {
     FakeProgram fake;
-    Fetch(fake, "fetched", u"Klingon");
-    EXPECT_EQ(FileBytes("WebMail-default-tokens-.map"), "fetched");
+    PutFile(kFile, "mine");
+    for (const MessageAnswer answer : {MessageAnswer::No, MessageAnswer::Cancel}) {
+        fake.messages.answer = answer;
+        FetchDefaultTranslation(fake.program, {u"127.0.0.1", 1}, kFrench);
+    }
+    fake.messages.answer = MessageAnswer::Yes;
+    FetchDefaultTranslation(fake.program, {{}, 0, u"no server"}, kFrench);
+    EXPECT_EQ(fake.messages.shown.back().text, u"no server");
+    EXPECT_EQ(fake.messages.shown.back().title, u"Error");
+    EXPECT_EQ(FileBytes(kFile), "mine");
+}
+
+struct CountingProgress : Progress {
+    void Begin() override { ++begun; }
+    void End() override { ++ended; }
+    void Step() override { steps += begun - ended; }
+    int begun = 0, ended = 0, steps = 0;
+};
+
+TEST(TokenFileFetch, AnUnknownLanguageIsWarnedOfAndProgressIsShown) {
+    FakeProgram fake;
+    CountingProgress progress;
+    fake.program.progress = &progress;
+    LoopbackPeer late = LatePeer(1);
+    FetchDefaultTranslation(fake.program, {u"127.0.0.1", late.Port()},
+                            {u"WebMail", u"default", u"Klingon"});
+    EXPECT_EQ(FileBytes("WebMail-default-tokens-.map"), "later");
     const UserMessage& warning = fake.messages.shown.at(1);
-    EXPECT_TRUE(warning.text == u"Language Symbol not found" && warning.title == u"Warning" &&
-                warning.icon == MessageIcon::Exclamation);
-    WebPeer peer("HTTP/1.0 200 OK\r\n\r\na");
-    EXPECT_TRUE(DownloadTokenFile(fake.program, {u"127.0.0.1", peer.Port()}, u"t.map", u"/", true));
-    EXPECT_EQ(FileBytes("t.map"), "\xFF\xFE" + std::string("a"));
+    EXPECT_EQ(warning.text, u"Language Symbol not found");
+    EXPECT_EQ(warning.title, u"Warning");
+    EXPECT_EQ(warning.icon, MessageIcon::Exclamation);
+    EXPECT_EQ(progress.begun, 1);
+    EXPECT_EQ(progress.ended, 1);
+    EXPECT_GT(progress.steps, 3);
+}
+
+TEST(TokenFileFetch, TheSwitchWritesWholeUtf16Units) {
+    FakeProgram fake;
+    for (const std::string body : {"", "a", "ab", "abc"}) {
+        WebPeer peer("HTTP/1.0 200 OK\r\n\r\n" + body);
+        EXPECT_TRUE(
+            DownloadTokenFile(fake.program, {u"127.0.0.1", peer.Port()}, u"t.map", u"/", true));
+        EXPECT_EQ(FileBytes("t.map"), "\xFF\xFE" + body.substr(0, body.size() / 2 * 2));
+    }
 }
 
 }  // namespace

@@ -25,7 +25,7 @@ class InternetHandle {
     HINTERNET handle_;
 };
 
-std::string ReadBody(HINTERNET request, const std::function<void()>& stillWaiting) {
+std::string ReadBody(HINTERNET request) {
     std::string body;
     std::array<char, 2048> buffer;
     for (bool goOn = true; goOn;) {
@@ -33,7 +33,6 @@ std::string ReadBody(HINTERNET request, const std::function<void()>& stillWaitin
         goOn = InternetReadFile(request, buffer.data(), static_cast<DWORD>(buffer.size()), &count);
         body.append(buffer.data(), count);
         goOn = goOn && count != 0;
-        stillWaiting();
     }
     return body;
 }
@@ -45,10 +44,12 @@ std::string SendRequest(const HttpRequest& request) {
         InternetOpenA("http generic", INTERNET_OPEN_TYPE_PRECONFIG, nullptr, nullptr, 0));
     if (!internet.IsOpen())
         return {};
-    // The protocol's name stands in the place of the password, and servers have always seen it so.
-    const InternetHandle connection(InternetConnectA(internet.Get(), request.host.c_str(),
-                                                     request.port, nullptr, "HTTP/1.0",
-                                                     INTERNET_SERVICE_HTTP, 0, 0));
+    const bool isIPv6 = request.host.find(':') != std::string::npos;
+    const std::string host = isIPv6 ? '[' + request.host + ']' : request.host;
+    // Deliberate: the protocol's name is passed as the password.
+    const InternetHandle connection(InternetConnectA(internet.Get(), host.c_str(), request.port,
+                                                     nullptr, "HTTP/1.0", INTERNET_SERVICE_HTTP, 0,
+                                                     0));
     if (!connection.IsOpen())
         return {};
     const InternetHandle opened(HttpOpenRequestA(connection.Get(), request.verb.c_str(),
@@ -63,7 +64,7 @@ std::string SendRequest(const HttpRequest& request) {
     }
     HttpSendRequestA(opened.Get(), nullptr, 0, const_cast<char*>(request.body.data()),
                      static_cast<DWORD>(request.body.size()));
-    return ReadBody(opened.Get(), request.stillWaiting);
+    return ReadBody(opened.Get());
 }
 
 }  // namespace cvlang
