@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(FileSystem, AFolderCopiedOntoItselfChangesNoByteAndIntoItselfEnds) {
+TEST(FileSystem, ACopyOntoItselfChangesNothingAndACopyIntoItselfEnds) {
     const TemporaryFolder folder;
     const fs::path en = folder / "EN";
     PutFile(en / "a.asp", "a");
@@ -33,7 +33,7 @@ TEST(FileSystem, AFolderCopiedOntoItselfChangesNoByteAndIntoItselfEnds) {
     EXPECT_FALSE(fs::exists(en / "fr" / "fr" / "fr"));
 }
 
-TEST(FileSystem, AReadOnlyFileStaysAsItIsForRootToo) {
+TEST(FileSystem, AReadOnlyFileIsUnchangedForRootToo) {
     const TemporaryFolder folder;
     PutFile("f", "mine");
     SetReadOnly("f", true);
@@ -61,7 +61,7 @@ TEST(ProcessLock, IsWaitedForHoweverTheFolderIsSpelt) {
     EXPECT_TRUE(std::filesystem::is_empty("Bin"));
 }
 
-TEST(Ansi, EveryByteSurvivesTheWayThereAndBackAndLookalikesReplaceNothing) {
+TEST(Ansi, EveryByteConvertsBackAndSimilarCharactersAreNotSubstituted) {
     std::string all;
     for (int byte = 0; byte < 256; ++byte)
         all += static_cast<char>(byte);
@@ -78,7 +78,7 @@ TEST(Ansi, EveryByteSurvivesTheWayThereAndBackAndLookalikesReplaceNothing) {
         EXPECT_EQ(Utf16ToAnsiExactly(lacking), std::nullopt);
 }
 
-TEST(Utf8, AnyTextSurvivesTheWayThereAndBackLoneSurrogatesToo) {
+TEST(Utf8, EveryTextConvertsBackIncludingLoneSurrogates) {
     std::mt19937 random(7);
     for (int round = 0; round < 2000; ++round) {
         std::u16string text(random() % 12, u'\0');

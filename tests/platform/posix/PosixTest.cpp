@@ -35,7 +35,7 @@ TEST(FindExisting, FindsAnEntryAsWindowsWould) {
     EXPECT_EQ(ReadFile("NETWEBMAIL/zephra/PAGE.asp", content), FileStatus::Okay);
 }
 
-TEST(FileCopy, AFileOfTwoNamesIsReplacedUnderOneOfThem) {
+TEST(FileCopy, ReplacingAFileLeavesItsOtherNameUnchanged) {
     const TemporaryFolder folder;
     PutFile(folder / "from" / "a", "fresh");
     PutFile(folder / "outside", "untouched");
@@ -50,7 +50,7 @@ TEST(FileCopy, AFileOfTwoNamesIsReplacedUnderOneOfThem) {
     EXPECT_EQ(FileBytes(folder / "outside"), "untouched");
 }
 
-TEST(FileSystem, APipeIsNotWaitedForAndNeitherItNorALargeFileIsTheSettings) {
+TEST(FileSystem, OpeningAPipeDoesNotWaitAndPipesAndLargeFilesAreNoSettings) {
     const TemporaryFolder folder;
     ASSERT_EQ(mkfifo("pipe", 0666), 0);
     FileContent content;
@@ -119,7 +119,7 @@ TEST(RegistryExport, IsReadAsTheImporterOfWindowsReadsIt) {
     }
 }
 
-TEST(RegistryExport, TheFileMayBeUtf16OrUtf8WithAMarkOrWithoutOrAnsi) {
+TEST(RegistryExport, ReadsUtf16Utf8AndAnsiWithAndWithoutAMark) {
     const std::u16string text = Utf8ToUtf16(kKey) + u"\"Value\"=\"\u00E9\"\r\n";
     const std::string bytes = "\"Value\"=hex(2):e9,00\r\n";
     for (const std::string& file :
