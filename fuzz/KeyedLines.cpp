@@ -11,8 +11,12 @@ namespace {
 
 using Texts = std::vector<std::u16string>;
 
-Texts FileLines() {
-    return LinesOf(Utf16File("t.map").Text());
+constexpr char kReference[] = "WebMail-default-tokens.map";
+constexpr char kLanguage[] = "WebMail-default-tokens-fr.map";
+constexpr char kOtherBase[] = "WebMail-default.net-tokens-fr.map";
+
+Texts FileLines(const char* file) {
+    return LinesOf(Utf16File(file).Text());
 }
 
 bool IsOfToken(std::u16string_view line, std::u16string_view token) {
@@ -32,6 +36,30 @@ Texts Expected(Texts lines, std::u16string_view token, std::u16string_view value
     return lines;
 }
 
+void TryChangesOfTokens(const std::string& bytes, std::u16string_view token,
+                        std::u16string_view value) {
+    for (const char* file : {kReference, kLanguage, kOtherBase})
+        PutFile(file, bytes);
+    const std::u16string text(Utf16File(kReference).Text());
+    Texts lines = LinesOf(std::u16string_view(text));
+    RemoveFromLanguageFiles(std::filesystem::absolute(kReference), token);
+    Texts kept = lines;
+    std::erase_if(kept, [&token](std::u16string_view line) {
+        std::u16string_view first = SplitField(line, kTab, 1);
+        if (!first.empty() && first.front() != u'[')
+            first.remove_prefix(1);
+        return !first.empty() && first == token;
+    });
+    Must(FileLines(kLanguage) == kept, "the token's lines go from a language's file");
+    Must(FileBytes(kReference) == bytes && FileBytes(kOtherBase) == bytes, "and from no other");
+
+    AddTokenLine(kReference, token, value);
+    if (!text.empty() && !text.ends_with(u"\r\n") && (text.back() == u'\r' || text.back() == u'\n'))
+        lines.emplace_back();
+    lines.push_back(std::u16string(u"\t\t\t[CV_TXT-").append(token).append(u"]\t").append(value));
+    Must(FileLines(kReference) == lines, "a token is added on a line of its own");
+}
+
 }  // namespace
 }  // namespace cvlang
 
@@ -42,9 +70,10 @@ void cvlang::Try(std::string_view input) {
     if ((token + value).find_first_of(u"\t\r") != std::u16string::npos)
         return;
     PutFile("t.map", StoreFile(input));
-    Texts lines = FileLines();
+    Texts lines = FileLines("t.map");
     RewriteKeyedLine({"t.map", "_t.map"}, token, value, fake.logs);
-    Must(FileLines() == Expected(lines, token, value), "the token's lines change, no other does");
+    Must(FileLines("t.map") == Expected(lines, token, value),
+         "the token's lines change, no other does");
     Must(FileBytes("_t.map") == "(no file)", "no temporary file is left");
 
     PutFile("t.map", StoreFile(input));
@@ -52,5 +81,6 @@ void cvlang::Try(std::string_view input) {
     std::erase_if(lines, [&token](const std::u16string& line) {
         return !token.empty() && SplitField(line, kTab, 4) == token;
     });
-    Must(FileLines() == lines, "the token's lines go, no other does");
+    Must(FileLines("t.map") == lines, "the token's lines go, no other does");
+    TryChangesOfTokens(StoreFile(input), token, value);
 }

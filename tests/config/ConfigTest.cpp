@@ -50,6 +50,8 @@ TEST(Logs, AppendOneLineEachAndReportAnErrorLogThatCannotBeWritten) {
     std::filesystem::remove("LangPort.log");
     std::filesystem::create_directory("LangPort.log");
     EXPECT_TRUE(fake.logs.LogTranslationEvent(u"lost"));
+    Logs().LogTranslationTrace(u"beside the program");
+    EXPECT_TRUE(std::filesystem::remove(ExecutableFolder() / "CVTrans.log"));
 }
 
 TEST(TextHelpers, SplitFieldReturnsTheNthFieldOrNothing) {

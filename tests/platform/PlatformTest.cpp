@@ -33,16 +33,6 @@ TEST(FileSystem, ACopyOntoItselfChangesNothingAndACopyIntoItselfEnds) {
     EXPECT_FALSE(fs::exists(en / "fr" / "fr" / "fr"));
 }
 
-TEST(FileSystem, AReadOnlyFileIsUnchangedForRootToo) {
-    const TemporaryFolder folder;
-    PutFile("f", "mine");
-    SetReadOnly("f", true);
-    EXPECT_FALSE(WriteFile("f", "x"));
-    EXPECT_TRUE(AppendToFile("f", "x"));
-    EXPECT_FALSE(RemoveFile("f"));
-    EXPECT_EQ(FileBytes("f"), "mine");
-}
-
 TEST(ProcessLock, IsWaitedForHoweverTheFolderIsSpelt) {
     const TemporaryFolder folder;
     std::filesystem::create_directory("Bin");

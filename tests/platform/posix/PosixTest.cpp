@@ -1,6 +1,11 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <array>
+#include <cstdio>
+#include <cstring>
+#include <ctime>
+#include <memory>
 #include <regex>
 #include <vector>
 
@@ -9,6 +14,7 @@
 #include "platform/Paths.h"
 #include "platform/Process.h"
 #include "platform/Registry.h"
+#include "platform/SystemInformation.h"
 #include "platform/posix/RegistryExport.h"
 #include "support/Files.h"
 #include "text/Unicode.h"
@@ -63,6 +69,53 @@ TEST(FileSystem, OpeningAPipeDoesNotWaitAndPipesAndLargeFilesAreNoSettings) {
         EXPECT_EQ(SystemRegistry()->ReadString(u"Key", u"Value"), text) << file;
         std::filesystem::resize_file("large", 1U << 30);
     }
+}
+
+TEST(FileSystem, AReadOnlyFileIsUnchangedForRootToo) {
+    const TemporaryFolder folder;
+    PutFile("f", "mine");
+    SetReadOnly("f", true);
+    EXPECT_FALSE(WriteFile("f", "x"));
+    EXPECT_TRUE(AppendToFile("f", "x"));
+    EXPECT_FALSE(RemoveFile("f"));
+    EXPECT_EQ(FileBytes("f"), "mine");
+}
+
+/// What a command of the system writes.
+std::string OutputOf(const std::string& command) {
+    const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
+    std::array<char, 200> line{};
+    return std::fgets(line.data(), line.size(), pipe.get()) == nullptr
+               ? ""
+               : std::string(line.data(), std::strlen(line.data()) - 1);
+}
+
+TEST(SystemInformation, IsThatOfTheSystem) {
+    const std::string before = OutputOf("date '+%F %T'");
+    const std::string now = Utf16ToUtf8(FormatDateAndTime(SystemClock()));
+    EXPECT_GE(now, before);
+    EXPECT_LE(now, OutputOf("date '+%F %T'"));
+    EXPECT_EQ(FormatDateAndTime({2004, 3, 7, 9, 5, 30}), u"2004-03-07 09:05:30");
+    EXPECT_EQ(Utf16ToUtf8(ComputerName()), OutputOf("uname -n"));
+    EXPECT_TRUE(std::filesystem::exists(ExecutableFolder() / "test_platform"));
+    EXPECT_EQ(NewGuid()->third >> 12, 4);
+    EXPECT_NE(NewGuid()->first, NewGuid()->first);
+}
+
+TEST(TimeZone, CountsMinutesWestAndSummerTime) {
+    const std::tuple<const char*, int, int, ZoneTime> cases[] = {
+        {"AAA5:30", 330, 0, ZoneTime::Standard},
+        {"AAA-2", -120, 0, ZoneTime::Standard},
+        {"AAA-1BBB,0/0,J365/25", -60, -60, ZoneTime::Daylight}};  // summer all year
+    for (const auto& [zone, bias, daylightBias, time] : cases) {
+        setenv("TZ", zone, 1);
+        const TimeZoneInformation found = SystemTimeZone();
+        EXPECT_EQ(found.bias, bias) << zone;
+        EXPECT_EQ(found.daylightBias, daylightBias) << zone;
+        EXPECT_EQ(found.time, time) << zone;
+    }
+    unsetenv("TZ");
+    tzset();
 }
 
 TEST(CommandLineText, IsRebuiltFromTheArguments) {
