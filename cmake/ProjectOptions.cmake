@@ -8,6 +8,18 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 target_compile_options(cvlang_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor)
+if(CMAKE_BUILD_TYPE STREQUAL "Release")
+    # A mistake in the use of memory ends the program, so that nobody can make use of it.
+    target_compile_options(cvlang_options INTERFACE
+        -fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -fcf-protection=full)
+    target_link_options(cvlang_options INTERFACE -fstack-protector-strong)
+    if(WIN32)
+        target_link_options(cvlang_options INTERFACE -Wl,--dynamicbase,--nxcompat,--high-entropy-va)
+    else()
+        target_compile_options(cvlang_options INTERFACE -fstack-clash-protection)
+        target_link_options(cvlang_options INTERFACE -Wl,-z,relro,-z,now)
+    endif()
+endif()
 if(CVLANG_SANITIZE)
     target_compile_options(cvlang_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
