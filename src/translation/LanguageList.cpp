@@ -7,6 +7,7 @@
 #include "platform/ProcessLock.h"
 #include "text/Lines.h"
 #include "text/Strings.h"
+#include "translation/StoreFile.h"
 #include "translation/StorePaths.h"
 
 namespace cvlang {
@@ -120,6 +121,14 @@ std::string WithLanguage(std::string_view list, std::u16string_view name,
     return longer;
 }
 
+/// Appends first, which leaves the old list as it was when the disk is full.
+void ReplaceByLonger(const std::filesystem::path& file, std::string_view old,
+                     std::string_view longer) {
+    AppendOrThrow(file, longer.substr(old.size()));
+    if (!longer.starts_with(old))
+        WriteFile(file, longer);
+}
+
 /// Returns the reason to refuse the language; empty when there is none.
 std::u16string AddToList(const std::filesystem::path& file, std::u16string_view name,
                          std::u16string_view abbreviation, bool& added) {
@@ -129,8 +138,10 @@ std::u16string AddToList(const std::filesystem::path& file, std::u16string_view 
         return u"Could not load language file " + TextFromPath(file);
     const std::u16string_view reason =
         ValidateNewLanguage(AnsiToUtf16(content.Bytes()), name, abbreviation);
-    added = reason.empty() &&
-            WriteFile(FindExisting(file), WithLanguage(content.Bytes(), name, abbreviation));
+    added = reason.empty();
+    if (added)
+        ReplaceByLonger(FindExisting(file), content.Bytes(),
+                        WithLanguage(content.Bytes(), name, abbreviation));
     return std::u16string(reason);
 }
 

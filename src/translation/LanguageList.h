@@ -30,7 +30,7 @@ std::vector<std::u16string> LoadLanguageList(const Configuration& config,
 
 /// Appends a language to a base's language list file; true on success. A name or an abbreviation
 /// that is listed, in any letter case, or a list that cannot be opened is refused with a message.
-/// The file is then unchanged.
+/// Throws filesystem_error when the file cannot be written. The file is then unchanged.
 bool AddLanguageToBase(Program& program, const Selection& selection, std::u16string_view name,
                        std::u16string_view abbreviation);
 

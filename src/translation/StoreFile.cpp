@@ -1,6 +1,7 @@
 #include "translation/StoreFile.h"
 
 #include <bit>
+#include <cstdint>
 #include <string>
 
 #include "platform/Paths.h"
@@ -67,8 +68,27 @@ bool WriteUtf16File(const std::filesystem::path& path, std::u16string_view text)
     return WriteFile(path, BytesOf(marked), Durability::OnDisk);
 }
 
-void AppendToUtf16File(const std::filesystem::path& path, std::u16string_view text) {
-    [[maybe_unused]] const std::error_code ignored = AppendToFile(path, BytesOf(text));
+void AppendOrThrow(const std::filesystem::path& path, std::string_view bytes) {
+    std::error_code noFile;
+    const std::uintmax_t size = std::filesystem::file_size(path, noFile);
+    const std::error_code error = AppendToFile(path, bytes);
+    if (!error)
+        return;
+    std::error_code ignored;
+    if (noFile) {
+        std::filesystem::remove(path, ignored);
+    } else if (std::filesystem::file_size(path, ignored) != size) {
+        std::filesystem::resize_file(path, size, ignored);
+    }
+    throw std::filesystem::filesystem_error("cannot write", path, error);
+}
+
+void AppendTextOrThrow(const std::filesystem::path& path, std::u16string_view text) {
+    std::error_code noFile;
+    const std::uintmax_t size = std::filesystem::file_size(path, noFile);
+    if (!noFile && size % 2 != 0)
+        std::filesystem::resize_file(path, size - 1);
+    AppendOrThrow(path, std::string(BytesOf(noFile ? u"\uFEFF" : u"")).append(BytesOf(text)));
 }
 
 void RewriteKeyedLine(const RewrittenFile& rewritten, std::u16string_view key,

@@ -32,8 +32,12 @@ class Utf16File {
 /// because the file that it replaces is deleted next. False on failure.
 bool WriteUtf16File(const std::filesystem::path& path, std::u16string_view text);
 
-/// Appends the text to an existing file. Errors are ignored.
-void AppendToUtf16File(const std::filesystem::path& path, std::u16string_view text);
+/// Appends the bytes to a file, and creates a missing one. On failure the file is as it was, and a
+/// filesystem_error with its path and the reason is thrown.
+void AppendOrThrow(const std::filesystem::path& path, std::string_view bytes);
+
+/// The same with a text, after a byte-order mark in a new file. An odd last byte is dropped.
+void AppendTextOrThrow(const std::filesystem::path& path, std::u16string_view text);
 
 /// A file of the store and its temporary file.
 struct RewrittenFile {

@@ -80,16 +80,10 @@ void AddTokenLine(const fs::path& referenceMapFile, std::u16string_view name,
     const ProcessLock lock(referenceMapFile.parent_path());
     const fs::path file = FindExisting(referenceMapFile);
     const Utf16File existing(file);
-    if (existing.Status() == FileStatus::OtherError)
-        return;
     const bool inMiddleOfLine = !existing.Text().empty() && !existing.Text().ends_with(kCrLf16);
     std::u16string line(inMiddleOfLine ? kCrLf16 : u"");
     line.append(u"\t\t\t[CV_TXT-").append(name).append(u"]\t").append(value).append(kCrLf16);
-    if (existing.Status() == FileStatus::Okay && !existing.EndsWithinCharacter()) {
-        AppendToUtf16File(file, line);
-    } else {
-        WriteUtf16File(file, std::u16string(existing.Text()) + line);
-    }
+    AppendTextOrThrow(file, line);
 }
 
 void RemoveFromReferenceFile(const fs::path& referenceMapFile, std::u16string_view token) {

@@ -15,7 +15,8 @@ void UpdateToken(const Program& program, const Selection& selection, std::u16str
                  std::u16string_view value);
 
 /// Appends a token to a reference map file, and creates a missing file. Deliberate: name and value
-/// are not checked, and an existing token gets a second line.
+/// are not checked, and an existing token gets a second line. Throws filesystem_error when the file
+/// cannot be written; it is then unchanged.
 void AddTokenLine(const std::filesystem::path& referenceMapFile, std::u16string_view name,
                   std::u16string_view value);
 

@@ -7,7 +7,8 @@
 
 namespace cvlang {
 
-/// Runs an action. An error that it raises is shown with its text, and the window lives on.
+/// Runs an action. An error that it raises is shown with its text, and the window lives on. A
+/// filesystem_error is shown with its path and the system's reason.
 void ShowingErrors(UserMessages& messages, const std::function<void()>& action);
 
 }  // namespace cvlang

@@ -1,4 +1,5 @@
 #include "app/MainWindowFixture.h"
+#include "platform/FileSystem.h"
 #include "widgets/Text.h"
 
 namespace cvlang {
@@ -48,6 +49,12 @@ TEST_F(Dialogs, AnAddedLanguageIsListedAndARefusalShown) {
     AddLanguage(u"Greek", u"el", "", "Cancel");
     EXPECT_EQ(FileBytes(kLanguageList), "French\tfr\nGerman\tde");
 
+    SetReadOnly(kLanguageList, true);
+    AddLanguage(u"Greek", u"el",
+                ToWx(TextFromPath(fake_.folder / kLanguageList)) + "\n" +
+                    AppendToFile(kLanguageList, "").message());
+    EXPECT_EQ(FileBytes(kLanguageList), "French\tfr\nGerman\tde");
+    SetReadOnly(kLanguageList, false);
     AddLanguage(u"Fran\u00E7ais", u"");
     EXPECT_EQ(FileBytes(kLanguageList),
               "French\tfr\r\nGerman\tde\r\nFran\xE7"
