@@ -1,8 +1,6 @@
 #include "support/WindowScript.h"
 
 #include <wx/app.h>
-#include <wx/dcmemory.h>
-#include <wx/dcscreen.h>
 #include <wx/display.h>
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
@@ -10,6 +8,7 @@
 #include <wx/utils.h>
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "widgets/Text.h"
 
@@ -129,10 +128,12 @@ void Type(wxWindow& parent, const wxString& box, const std::u16string& text) {
 
 wxImage ScreenPixels(const wxRect& place) {
     Draw();
-    wxBitmap copy(place.GetSize(), 24);
-    wxScreenDC screen;
-    wxMemoryDC(copy).Blit({0, 0}, place.GetSize(), &screen, place.GetPosition());
-    return copy.ConvertToImage();
+    // GTK itself would give the first picture again.
+    const wxString command =
+        wxString::Format(UNIX_PROGRAM "import -window root -crop %dx%d+%d+%d +repage bmp3:screen",
+                         place.width, place.height, place.x, place.y);
+    EXPECT_EQ(std::system(command.utf8_str()), 0);
+    return {"screen", wxBITMAP_TYPE_BMP};
 }
 
 double ShareOfDark(const wxImage& picture) {
