@@ -24,8 +24,11 @@ set status=0
 ver >report.txt
 for %%t in (test_%~1*.exe) do call :run %%t
 reg delete %key% /f >nul
-cd /d "%~dp0"
-rmdir /s /q temp
+rem A program that has just ended may still hold a file for a moment.
+for /l %%i in (1,1,10) do if exist temp (
+    ping -n 2 127.0.0.1 >nul
+    rmdir /s /q temp
+)
 type report.txt | find "== "
 echo The whole report is in %TEST_FOLDER%\report.txt
 exit /b %status%
