@@ -23,13 +23,15 @@ set GTEST_FILTER=-ProgramFile.TellsWhatIsWrongByTextAndStatus:Dialogs.TheDefault
 set status=0
 ver >report.txt
 for %%t in (test_%~1*.exe) do call :run %%t
+type report.txt | find "== "
 reg delete %key% /f >nul
 rem A program that has just ended may still hold a file for a moment.
-for /l %%i in (1,1,10) do if exist temp (
-    ping -n 2 127.0.0.1 >nul
-    rmdir /s /q temp
-)
-type report.txt | find "== "
+set tries=0
+:clean
+ping -n 2 127.0.0.1 >nul
+rmdir /s /q temp
+set /a tries+=1
+if exist temp if %tries% lss 10 goto clean
 echo The whole report is in %TEST_FOLDER%\report.txt
 exit /b %status%
 
