@@ -101,6 +101,7 @@ void PageTranslator::ReleaseMemory() {
 void PageTranslator::RewriteFile(const Folder& folder, const fs::path& name) {
     const fs::path destination = DestinationOf(folder);
     if (!destination.empty()) {
+        ResetAttributes(folder, name);
         WriteElsewhere(FindExisting(destination / name));
     } else {
         WritePage({folder, name, folder, {name, true}, CopiedAttributes::Archive}, PageBytes(),

@@ -39,6 +39,11 @@ bool CopyOneFile(const CopiedFile& file);
 /// that cannot be completed is removed. False on failure.
 bool WritePage(const CopiedFile& file, std::string_view bytes, const FileContent& original);
 
+/// Clears what keeps a file from being changed: read-only and archive on Windows; on Linux its
+/// owner gets the permission to write. Links, and on Linux files of several names, stay as they
+/// are.
+void ResetAttributes(const Folder& folder, const std::filesystem::path& name);
+
 /// The spellings that names have in a folder that files are to be copied to.
 class TargetNames {
   public:

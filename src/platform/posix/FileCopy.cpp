@@ -40,6 +40,15 @@ TargetMode ModeOfPage(mode_t original, CopiedAttributes attributes) {
     return mode;
 }
 
+/// Never through a link, and only where no other name is concerned.
+bool MakeWritable(const Place& place) {
+    struct stat existing {};
+    return fstatat(place.directory, place.name, &existing, AT_SYMLINK_NOFOLLOW) == 0 &&
+           S_ISREG(existing.st_mode) && existing.st_nlink == 1 && IsReadOnly(existing) &&
+           fchmodat(place.directory, place.name, (existing.st_mode | S_IWUSR) & kModeBits,
+                    AT_SYMLINK_NOFOLLOW) == 0;
+}
+
 /// A file of the target folder while it is written.
 class TargetFile {
   public:
@@ -86,7 +95,7 @@ class TargetFile {
     /// change.
     int OpenExisting(const TargetMode& mode) {
         Descriptor file(OpenNoLink());
-        if (!file.IsOpen() && errno == EACCES && MakeWritable())
+        if (!file.IsOpen() && errno == EACCES && MakeWritable(place_))
             file.Reset(OpenNoLink());
         struct stat existing {};
         if (!file.IsOpen() || fstat(file.Number(), &existing) != 0 || !S_ISREG(existing.st_mode) ||
@@ -100,14 +109,6 @@ class TargetFile {
     }
 
     int OpenNoLink() const { return Open(place_, O_WRONLY | O_NOFOLLOW | O_NONBLOCK); }
-
-    bool MakeWritable() const {
-        struct stat existing {};
-        return fstatat(place_.directory, place_.name, &existing, AT_SYMLINK_NOFOLLOW) == 0 &&
-               S_ISREG(existing.st_mode) && existing.st_nlink == 1 && IsReadOnly(existing) &&
-               fchmodat(place_.directory, place_.name, (existing.st_mode | S_IWUSR) & kModeBits,
-                        AT_SYMLINK_NOFOLLOW) == 0;
-    }
 
     const Place& place_;
     off_t existingSize_ = 0;
@@ -160,6 +161,10 @@ bool WritePage(const CopiedFile& file, std::string_view bytes, const FileContent
     };
     // Where writing over fails, deleting may give the room for a new file.
     return write(file.target.exists) || (file.target.exists && write(false));
+}
+
+void ResetAttributes(const Folder& folder, const fs::path& name) {
+    MakeWritable({folder, name});
 }
 
 struct TargetNames::Names {

@@ -80,6 +80,15 @@ bool WritePage(const CopiedFile& file, std::string_view bytes, const FileContent
     return false;
 }
 
+void ResetAttributes(const Folder& folder, const fs::path& name) {
+    constexpr DWORD kReset = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_ARCHIVE;
+    const std::wstring file = LongPath(folder.Path() / name);
+    const DWORD attributes = GetFileAttributesW(file.c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0 &&
+        (attributes & kReset) != 0)
+        SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
 struct TargetNames::Names {
     fs::path folder;
 };
