@@ -157,7 +157,7 @@ void NormaliseLineEnds(std::string_view page, const PageScan& scan, PageText& no
     std::size_t copied = 0;
     scan.ForEachIrregularLineEnd([&](std::size_t place) {
         normalised.Append(page.substr(copied, place - copied));
-        normalised.Append(kPageLineEnd);
+        normalised.Append(kCrLf);
         copied = place + 1;
     });
     normalised.Append(page.substr(copied));

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "generation/PageText.h"
+#include "text/Strings.h"
 
 namespace cvlang {
 
@@ -56,8 +57,6 @@ class PageScan {
     std::vector<Block> brackets_;           // only blocks that have some
     std::vector<std::size_t> scriptTags_;
 };
-
-inline constexpr std::string_view kPageLineEnd = "\r\n";
 
 /// Makes `normalised` the page with CR LF wherever its scan notes one of them alone.
 void NormaliseLineEnds(std::string_view page, const PageScan& scan, PageText& normalised);

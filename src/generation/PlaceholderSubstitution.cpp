@@ -12,6 +12,14 @@ namespace {
 // Tokens are numbered with 16 bits; installations rely on pages being left alone beyond that.
 constexpr TokenNumber kMostTokens = std::numeric_limits<std::int16_t>::max();
 
+using BracketGroups = std::vector<BracketGroup>::const_iterator;
+
+/// The first group that does not begin before the position.
+BracketGroups FirstFrom(std::size_t position, BracketGroups first, BracketGroups last) {
+    return std::find_if(first, last,
+                        [position](const BracketGroup& group) { return group.start >= position; });
+}
+
 }  // namespace
 
 PlaceholderSubstitution::PlaceholderSubstitution(const TokenIndex& tokens,
@@ -30,11 +38,15 @@ bool PlaceholderSubstitution::Translate(std::string_view page, ScriptMode mode, 
     nextPageStart_ += text.size();
     FindBracketGroups(text, scan_, tokens_.HasOtherGroups(), groups_);
     tokens_.LookUp(text, groups_);
-    if (tokens_.IrregularTokens().empty() && !DependOnOrder(groups_.begin(), groups_.end())) {
-        ReplaceAtOnce(state, groups_.begin(), groups_.end());
-        Count(state, groups_.begin(), groups_.end());
-    } else {
-        ReplaceByLines(state);
+    for (BracketGroups first = groups_.begin(); first != groups_.end();) {
+        const BracketGroups dependent =
+            std::find_if(first, groups_.cend(),
+                         [&](const BracketGroup& group) { return DependsOnOrder(text, group); });
+        const bool isLast = dependent == groups_.end();
+        const std::size_t start = isLast ? text.size() : LineStart(text, dependent->start);
+        const BracketGroups last = FirstFrom(start, first, dependent);
+        ReplaceLines(state, first, last, start);
+        first = isLast ? last : ReplaceLineInOrder(state, last, groups_.end());
     }
     CopyUpTo(state, text.size());
     SumUpEmptyTokens();
@@ -55,53 +67,58 @@ std::string_view PlaceholderSubstitution::Normalise(std::string_view page) {
         page = normalised_.View();
         scan_.Scan(page);
     }
-    if (page.ends_with(kPageLineEnd))
-        page.remove_suffix(kPageLineEnd.size());
+    if (page.ends_with(kCrLf))
+        page.remove_suffix(kCrLf.size());
     return page;
 }
 
-/// Whether it matters in which order the tokens of these groups are replaced.
-bool PlaceholderSubstitution::DependOnOrder(BracketGroups first, BracketGroups last) {
-    return std::any_of(first, last, [](const BracketGroup& group) {
-        // Behind an open bracket the value may become part of another placeholder.
-        return group.token != nullptr &&
-               (group.isBehindOpenBracket || group.token->DependsOnOrder());
-    });
+/// Whether it matters in which order this group's token and others are replaced.
+bool PlaceholderSubstitution::DependsOnOrder(std::string_view text,
+                                             const BracketGroup& group) const {
+    // Behind an open bracket the value may become part of another placeholder.
+    return (group.token != nullptr &&
+            (group.isBehindOpenBracket || group.token->DependsOnOrder())) ||
+           tokens_.MayHoldPlaceholder(text.substr(group.start));
 }
 
-void PlaceholderSubstitution::ReplaceByLines(Page& page) {
-    for (BracketGroups first = groups_.begin(); first != groups_.end();) {
-        const std::size_t start = LineStart(page.text, first->start);
-        const std::size_t end = LineEnd(page.text, first->start);
-        const BracketGroups last = std::find_if(
-            first, groups_.cend(), [end](const BracketGroup& group) { return group.start >= end; });
-        CopyUpTo(page, start);
-        if (DependOnOrder(first, last) || !ReplaceLineAtOnce(page, first, last, end))
-            ReplaceLineInOrder(page, end);
-        first = last;
-    }
-}
-
-/// Replaces the groups of the line that begins where the page has been copied to. False, with
-/// nothing done, when a token that is no group may have been on the line at some time.
-bool PlaceholderSubstitution::ReplaceLineAtOnce(Page& page, BracketGroups first, BracketGroups last,
-                                                std::size_t end) {
-    const std::size_t start = page.copied;
+/// Replaces the groups of whole lines, from where the page has been copied to up to `end`, at once
+/// where no irregular token may have been on a line at some time.
+void PlaceholderSubstitution::ReplaceLines(Page& page, BracketGroups first, BracketGroups last,
+                                           std::size_t end) {
+    const Page before = page;
     const std::size_t outputStart = page.output.Size();
     ReplaceAtOnce(page, first, last);
-    page.output.Append(page.text.substr(page.copied, end - page.copied));
-    page.copied = end;
-    if (tokens_.MayHoldIrregular(page.text.substr(start, end - start)) ||
-        tokens_.MayHoldIrregular(page.output.View().substr(outputStart))) {
-        page.output.Truncate(outputStart);
-        page.copied = start;
-        return false;
+    CopyUpTo(page, end);
+    const std::string_view lines = page.text.substr(before.copied, end - before.copied);
+    if (first == last || (!tokens_.HoldsLoosePiece(lines) &&
+                          !tokens_.HoldsLoosePiece(page.output.View().substr(outputStart)))) {
+        Count(page, first, last);
+        return;
     }
-    Count(page, first, last);
-    return true;
+    page.output.Truncate(outputStart);
+    page.copied = before.copied;
+    page.script = before.script;
+    const bool isOneLine = lines.find(kCrLf) == std::string_view::npos;
+    while (first != last) {
+        if (isOneLine) {
+            first = ReplaceLineInOrder(page, first, last);
+            continue;
+        }
+        CopyUpTo(page, LineStart(page.text, first->start));
+        const std::size_t lineEnd = LineEnd(page.text, first->start);
+        const BracketGroups next = FirstFrom(lineEnd, first, last);
+        ReplaceLines(page, first, next, lineEnd);
+        first = next;
+    }
+    CopyUpTo(page, end);
 }
 
-void PlaceholderSubstitution::ReplaceLineInOrder(Page& page, std::size_t end) {
+/// Takes the line of the first group through the tokens in order, and returns the first group
+/// behind the line.
+PlaceholderSubstitution::BracketGroups PlaceholderSubstitution::ReplaceLineInOrder(
+    Page& page, BracketGroups first, BracketGroups last) {
+    CopyUpTo(page, LineStart(page.text, first->start));
+    const std::size_t end = LineEnd(page.text, first->start);
     const SequentialSubstitution line(tokens_, page.text.substr(page.copied, end - page.copied),
                                       page.script.IsScript(page.copied));
     page.output.Append(line.Text());
@@ -109,6 +126,7 @@ void PlaceholderSubstitution::ReplaceLineInOrder(Page& page, std::size_t end) {
     for (const TokenNumber number : line.Replaced())
         useCounts_[static_cast<std::size_t>(number)] += step_;
     CountEmptyTokensUpTo(line.LookedAt());
+    return FirstFrom(end, first, last);
 }
 
 /// Replaces groups between which the order does not matter.
@@ -130,8 +148,8 @@ void PlaceholderSubstitution::ReplaceAtOnce(Page& page, BracketGroups first, Bra
 /// first.
 void PlaceholderSubstitution::CopyUpTo(Page& page, std::size_t position) {
     if (page.output.Size() == page.outputStart) {
-        while (page.text.substr(page.copied, kPageLineEnd.size()) == kPageLineEnd)
-            page.copied += kPageLineEnd.size();
+        while (page.copied < position && page.text.substr(page.copied, kCrLf.size()) == kCrLf)
+            page.copied += kCrLf.size();
     }
     page.output.Append(page.text.substr(page.copied, position - page.copied));
     page.copied = position;

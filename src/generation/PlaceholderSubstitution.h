@@ -54,10 +54,9 @@ class PlaceholderSubstitution {
     };
 
     std::string_view Normalise(std::string_view page);
-    static bool DependOnOrder(BracketGroups first, BracketGroups last);
-    void ReplaceByLines(Page& page);
-    bool ReplaceLineAtOnce(Page& page, BracketGroups first, BracketGroups last, std::size_t end);
-    void ReplaceLineInOrder(Page& page, std::size_t end);
+    bool DependsOnOrder(std::string_view text, const BracketGroup& group) const;
+    void ReplaceLines(Page& page, BracketGroups first, BracketGroups last, std::size_t end);
+    BracketGroups ReplaceLineInOrder(Page& page, BracketGroups first, BracketGroups last);
     void ReplaceAtOnce(Page& page, BracketGroups first, BracketGroups last);
     static void CopyUpTo(Page& page, std::size_t position);
     void Count(Page& page, BracketGroups first, BracketGroups last);

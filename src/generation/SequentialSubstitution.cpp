@@ -35,10 +35,13 @@ std::vector<TokenNumber> SequentialSubstitution::Replaced() const {
 /// and returns that one; null when there is none.
 const IndexedToken* SequentialSubstitution::ReplaceUpToNext() {
     const auto replacedBefore = static_cast<std::ptrdiff_t>(replaced_.size());
-    const IndexedToken* next = NextIrregular();
+    const IndexedToken* next = tokens_.FindIrregular(text_, lookedAt_);
     for (;;) {
         std::string changed;
         const IndexedToken* found = ReplaceGroups(next, changed);
+        const IndexedToken* irregular = tokens_.FindIrregular(changed, lookedAt_);
+        if (irregular != nullptr && (found == nullptr || irregular->Number() < found->Number()))
+            found = irregular;
         if (found == next) {
             text_.swap(changed);
             return next;
@@ -99,14 +102,6 @@ void SequentialSubstitution::AppendValue(const IndexedToken& token, std::string&
     } else {
         output += token.Value();
     }
-}
-
-const IndexedToken* SequentialSubstitution::NextIrregular() const {
-    const auto& irregular = tokens_.IrregularTokens();
-    const auto next = std::upper_bound(
-        irregular.begin(), irregular.end(), lookedAt_,
-        [](TokenNumber number, const IndexedToken* token) { return number < token->Number(); });
-    return next == irregular.end() ? nullptr : *next;
 }
 
 }  // namespace cvlang

@@ -27,7 +27,6 @@ class SequentialSubstitution {
     const IndexedToken* ReplaceGroups(const IndexedToken* before, std::string& output);
     void ReplaceToken(const IndexedToken& token);
     void AppendValue(const IndexedToken& token, std::string& output) const;
-    const IndexedToken* NextIrregular() const;
 
     const TokenIndex& tokens_;
     bool isScript_;

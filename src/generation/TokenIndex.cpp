@@ -105,6 +105,7 @@ TokenIndex::TokenIndex(const TextArray& arrTokens, const TextArray& arrValues)
         Add(number, arrTokens[i], arrValues[i]);
     }
     std::reverse(irregular_.begin(), irregular_.end());
+    SortPlaceholderStarts();
     std::reverse(empty_.begin(), empty_.end());
 }
 
@@ -122,8 +123,7 @@ void TokenIndex::Add(TokenNumber number, std::u16string_view token, std::u16stri
     if (IsGroup(*ansi)) {
         AddGroup(stored);
     } else {
-        irregular_.push_back(&stored);
-        irregularPieces_.push_back(LongestPiece(stored.Token()));
+        AddIrregular(stored);
     }
 }
 
@@ -176,10 +176,49 @@ const IndexedToken* TokenIndex::FindGroup(std::string_view group, TokenNumber af
     return token;
 }
 
-bool TokenIndex::MayHoldIrregular(std::string_view text) const {
-    return std::any_of(
-        irregularPieces_.begin(), irregularPieces_.end(),
-        [text](std::string_view piece) { return text.find(piece) != std::string_view::npos; });
+void TokenIndex::AddIrregular(const IndexedToken& token) {
+    const std::string_view text = token.Token();
+    irregular_.push_back({&token, LongestPiece(text)});
+    const std::size_t start = text.find(kPlaceholderPrefix);
+    if (start == std::string_view::npos) {
+        loosePieces_.push_back(irregular_.back().piece);
+        return;
+    }
+    const std::size_t end = text.find_first_of("[]", start + 1);
+    const std::size_t closing = end != std::string_view::npos && text[end] == ']' ? 1 : 0;
+    placeholderStarts_.push_back(text.substr(start, end - start + closing));
+}
+
+/// Leaves those out that begin with another one. Then only the one that sorts before a text, or is
+/// equal, can be its beginning.
+void TokenIndex::SortPlaceholderStarts() {
+    std::sort(placeholderStarts_.begin(), placeholderStarts_.end());
+    const auto last = std::unique(
+        placeholderStarts_.begin(), placeholderStarts_.end(),
+        [](std::string_view shorter, std::string_view text) { return text.starts_with(shorter); });
+    placeholderStarts_.erase(last, placeholderStarts_.end());
+}
+
+const IndexedToken* TokenIndex::FindIrregular(std::string_view text, TokenNumber after) const {
+    const auto found =
+        std::find_if(irregular_.begin(), irregular_.end(), [&](const Irregular& irregular) {
+            return irregular.token->Number() > after &&
+                   text.find(irregular.piece) != std::string_view::npos;
+        });
+    return found == irregular_.end() ? nullptr : found->token;
+}
+
+bool TokenIndex::MayHoldPlaceholder(std::string_view text) const {
+    if (placeholderStarts_.empty())
+        return false;
+    const auto next = std::upper_bound(placeholderStarts_.begin(), placeholderStarts_.end(), text);
+    return next != placeholderStarts_.begin() && text.starts_with(*std::prev(next));
+}
+
+bool TokenIndex::HoldsLoosePiece(std::string_view text) const {
+    return std::any_of(loosePieces_.begin(), loosePieces_.end(), [text](std::string_view piece) {
+        return text.find(piece) != std::string_view::npos;
+    });
 }
 
 void TokenIndex::LookUp(std::string_view page, std::vector<BracketGroup>& groups) const {

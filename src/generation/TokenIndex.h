@@ -59,10 +59,16 @@ class TokenIndex {
     /// Many at once, because the time that fetching from memory takes then passes only once.
     void LookUp(std::string_view page, std::vector<BracketGroup>& groups) const;
 
-    /// Tokens that are not groups, in order. They have to be searched for one by one.
-    const std::vector<const IndexedToken*>& IrregularTokens() const { return irregular_; }
-    /// Whether the text holds the longest piece without brackets of one of them.
-    bool MayHoldIrregular(std::string_view text) const;
+    // Tokens that are no bracket groups are irregular: they have to be searched for one by one.
+
+    /// The first irregular token behind `after` that may be in the text: its longest piece without
+    /// brackets is. Null when there is none.
+    const IndexedToken* FindIrregular(std::string_view text, TokenNumber after) const;
+    /// Whether an irregular token may hold the placeholder, or the unclosed one, that the text
+    /// begins with.
+    bool MayHoldPlaceholder(std::string_view text) const;
+    /// Whether the text holds the longest piece of an irregular token that holds no placeholder.
+    bool HoldsLoosePiece(std::string_view text) const;
     /// Blank lines of the map file, in order.
     const std::vector<TokenNumber>& EmptyTokens() const { return empty_; }
 
@@ -77,14 +83,21 @@ class TokenIndex {
     void Add(TokenNumber number, std::u16string_view token, std::u16string_view value);
     IndexedToken& Store(TokenNumber number, std::string_view token, std::string_view value);
     void AddGroup(IndexedToken& token);
+    void AddIrregular(const IndexedToken& token);
+    void SortPlaceholderStarts();
 
     TokenNumber upperBound_;
     std::unique_ptr<std::byte[]> memory_;  // all tokens with their texts, one after the other
     std::size_t used_;
     std::vector<Slot> slots_;  // a power of two, at least half of them free
     bool hasOtherGroups_ = false;
-    std::vector<const IndexedToken*> irregular_;
-    std::vector<std::string_view> irregularPieces_;
+    struct Irregular {
+        const IndexedToken* token;
+        std::string_view piece;  // the longest one without brackets
+    };
+    std::vector<Irregular> irregular_;                 // in order
+    std::vector<std::string_view> loosePieces_;        // of those without a placeholder
+    std::vector<std::string_view> placeholderStarts_;  // of the others; sorted, none begins another
     std::vector<TokenNumber> empty_;
     std::vector<std::uint8_t> encoded_;  // the value at hand
 };
