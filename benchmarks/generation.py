@@ -5,7 +5,7 @@ import statistics
 
 import generate_installation as generator
 from bench import MAP_NAME, compare, french, reference, remove
-from measuring import Case, Sample, file_system, peak, ratio, show
+from measuring import Case, Sample, file_system, peak, ratio, read, run_once, show
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 LARGE_LINE, SMALL_LINE = 50_000_000, 5_000_000
@@ -38,6 +38,56 @@ def yardsticks(bench, size):
          ["", "wall", "min", "max", "CPU", "min", "max", "wall ratio", "CPU ratio"], rows)
     remove(french(folder))
     return folder
+
+
+def yardsticks_over_existing(bench, size):
+    """The same over a folder that an earlier run left."""
+    folder = bench.installation(size, *generator.PRESETS[size])
+    folders = [reference(folder), french(folder)]
+
+    def keep():
+        pass
+    run_once(bench.translate(folder), bench.scratch)
+    cases = [Case("cp -rT", keep, ["cp", "-rT", *folders]),
+             Case("floor", keep, [bench.built("benchmarks/benchmark-floor"), *folders]),
+             bench.translate(folder, prepare=keep)]
+    samples = bench.measure(cases)
+    rows = [[case.name] + [ratio(samples[-1], own, field) for field in Sample._fields]
+            for case, own in zip(cases, samples)]
+    show(bench.report, f"{size}, existing folder: the program's time divided by this row's",
+         ["", "wall", "CPU"], rows)
+    remove(french(folder))
+
+
+def make_awkward(map_file):
+    """One token in a hundred has a stray character, begins others, or has a placeholder in its value."""
+    lines = [line.split("\t") for line in map_file.decode("utf-16").split("\r\n") if line]
+    made = []
+    for number, (token, value) in enumerate(lines):
+        kind = number % 400
+        if kind == 100:
+            value += lines[number // 2][0]
+        elif kind == 200:
+            made.append(f"{token[:-3]}\t{value}")
+        elif kind == 300:
+            token = "x" + token
+        made.append(f"{token}\t{value}")
+    return ("\ufeff" + "\r\n".join(made) + "\r\n").encode("utf-16-le")
+
+
+def awkward_tokens(bench):
+    folder = bench.installation("awkward", *generator.PRESETS["medium"])
+    path = os.path.join(folder, MAP_NAME)
+    clean = read(path)
+
+    def write(content):
+        remove(french(folder))
+        with open(path, "wb") as file:
+            file.write(content)
+    compare(bench, "medium pages with a clean and an awkward map file",
+            [bench.translate(folder, "clean", lambda: write(clean)),
+             bench.translate(folder, "awkward", lambda: write(make_awkward(clean)))])
+    write(clean)
 
 
 def existing_folder(bench):
@@ -98,6 +148,9 @@ def peak_memory(bench, folders):
 
 def measure_generation(bench, sizes):
     folders = {size: yardsticks(bench, size) for size in sizes}
+    for size in sizes:
+        yardsticks_over_existing(bench, size)
+    awkward_tokens(bench)
     existing_folder(bench)
     token_scaling(bench)
     load_time(bench)
