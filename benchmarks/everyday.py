@@ -33,7 +33,7 @@ def update(bench, folder):
             f"({os.path.getsize(map_file) / 1e6:.1f} MB)",
             [Case("cp", nothing, ["cp", map_file, copied]),
              Case("update", lambda: shutil.copyfile(kept, map_file),
-                  [bench.built("tests/faults/update_once"), folder])], 3 * bench.args.runs)
+                  [bench.built("tests/faults/change_once"), folder, "update"])], 3 * bench.args.runs)
 
 
 def message(bench):
