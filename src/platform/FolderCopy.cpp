@@ -16,10 +16,16 @@ class FolderCopier {
   public:
     explicit FolderCopier(const FileCopier& copyFile) : copyFile_(copyFile) {}
 
-    void Copy(const FolderListing& listing, const fs::path& from, const fs::path& to, bool toIsNew,
-              CopiedAttributes attributes) {
-        const TargetNames targets(to, toIsNew);
-        CopyFiles(listing, from, to, targets, attributes);
+    void CopyFiles(const FolderListing& listing, const fs::path& from, const fs::path& to,
+                   const TargetNames& targets, CopiedAttributes attributes) {
+        const Folder source(from);
+        const Folder target(to);
+        for (const fs::path& name : listing.files)
+            copyFile_({source, name, target, targets.Find(name), attributes});
+    }
+
+    void CopyFolders(const FolderListing& listing, const fs::path& from, const fs::path& to,
+                     const TargetNames& targets) {
         for (const fs::path& name : listing.folders)
             CopySubfolder(from / name, to, targets.Find(name));
         for (const fs::path& name : listing.linkedFolders) {
@@ -33,14 +39,6 @@ class FolderCopier {
     }
 
   private:
-    void CopyFiles(const FolderListing& listing, const fs::path& from, const fs::path& to,
-                   const TargetNames& targets, CopiedAttributes attributes) {
-        const Folder source(from);
-        const Folder target(to);
-        for (const fs::path& name : listing.files)
-            copyFile_({source, name, target, targets.Find(name), attributes});
-    }
-
     /// Whether a link leads to a folder that is being copied, or to one above it.
     bool LeadsBack(const fs::path& link) const {
         const fs::path outer = RealPath(link);
@@ -56,7 +54,9 @@ class FolderCopier {
         // copy.
         const FolderListing listing = ListFolder(from);
         const bool isNew = CreateFolder(to);
-        Copy(listing, from, to, isNew, CopiedAttributes::Kept);
+        const TargetNames targets(to, isNew);
+        CopyFiles(listing, from, to, targets, CopiedAttributes::Kept);
+        CopyFolders(listing, from, to, targets);
     }
 
     const FileCopier& copyFile_;
@@ -67,8 +67,14 @@ class FolderCopier {
 
 void CopyFolder(const fs::path& from, const fs::path& to, bool toIsNew,
                 const FileCopier& copyFile) {
-    if (!IsSameFolder(from, to))
-        FolderCopier(copyFile).Copy(ListFolder(from), from, to, toIsNew, CopiedAttributes::Archive);
+    if (IsSameFolder(from, to))
+        return;
+    FolderCopier copier(copyFile);
+    const FolderListing listing = ListFolder(from);
+    copier.CopyFiles(listing, from, to, TargetNames(to, toIsNew), CopiedAttributes::Archive);
+    // Deliberate: listed again, so that a folder is not copied when its name differs only in case
+    // from that of a file that was.
+    copier.CopyFolders(listing, from, to, TargetNames(to, false));
 }
 
 }  // namespace cvlang

@@ -165,6 +165,18 @@ TEST_F(ContentTree, LinksAreFollowedInTheReferenceFolderUnlessTheyLeadBackAndNev
     EXPECT_EQ(FileBytes(outside / "c.asp"), "\r\n[CV_TXT-A]");
 }
 
+TEST_F(ContentTree, AFolderIsNotCopiedOverAFileWhoseNameDiffersOnlyInCase) {
+    PutFile(sys / "in", "file");
+    if (std::error_code failed; !fs::create_directory(sys / "In", failed))
+        GTEST_SKIP() << "letter case does not matter on this file system";
+    PutFile(sys / "In" / "a.asp", kSource);
+    for (int run = 0; run < 2; ++run) {
+        Apply();
+        EXPECT_EQ(FileBytes(fr / "in"), "file");
+        EXPECT_FALSE(fs::exists(fr / "In"));
+    }
+}
+
 TEST_F(ContentTree, OnlyAScriptFileIsScriptThroughoutAndAMissingPageIsLogged) {
     PageTranslator pages(fake.program,
                          FindLanguageFolders(fake.config, {u"WebMail", u"default.net", u"French"}),
