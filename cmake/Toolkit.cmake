@@ -9,7 +9,12 @@ add_library(cvlang_toolkit INTERFACE)
 target_include_directories(cvlang_toolkit SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
 target_compile_definitions(cvlang_toolkit INTERFACE ${wxWidgets_DEFINITIONS})
 target_link_libraries(cvlang_toolkit INTERFACE ${wxWidgets_LIBRARIES})
-if(WIN32)
+if(NOT WIN32)
+    # What the toolkit leaves to GTK.
+    find_package(PkgConfig REQUIRED)
+    pkg_check_modules(GTK REQUIRED IMPORTED_TARGET gtk+-3.0)
+    target_link_libraries(cvlang_toolkit INTERFACE PkgConfig::GTK)
+else()
     # Asserts in headers name their file: not by where it lies on the machine that built the program.
     cmake_path(SET toolkit_folder NORMALIZE ${wxWidgets_DIR}/../../..)
     target_compile_options(cvlang_toolkit INTERFACE

@@ -93,14 +93,17 @@ void frmMain::OnTokenClick() {
     const std::u16string selected = lbxTokens->SelectedText();
     const TokenEntry entry = SplitTokenEntry(selected);
     lvwTokenDetails->DeleteAllItems();
-    lvwTokenDetails->InsertItem(0, ToWx(entry.token));
-    lvwTokenDetails->SetItem(0, 1, ToWx(entry.value));
+    lvwTokenDetails->InsertItem(0, ToWx(Shortened(entry.token)));
+    lvwTokenDetails->SetItem(0, 1, ToWx(Shortened(entry.value)));
+    lvwTokenDetails->SetToolTip(ToWx(Shortened(entry.value)));
+    FitDetails();
     txtTranslation->Load(
         GetTokenValue(program_, selected, lstBases->SelectedText(), lstLanguages->SelectedText()));
 }
 
 void frmMain::OnUpdate() {
     UpdateToken(program_, CurrentSelection(), lbxTokens->SelectedText(), txtTranslation->Text());
+    txtTranslation->Keep();
 }
 
 void frmMain::OnApply() {
@@ -181,19 +184,18 @@ void frmMain::OnNextUntranslated() {
 void frmMain::OnFind() {
     wxTextEntryDialog dialog(this, "Find in the tokens and their English values:", "Find",
                              ToWx(soughtText_));
-    if (dialog.ShowModal() == wxID_OK) {
-        soughtText_ = FromWx(dialog.GetValue());
-        OnFindNext();
-    }
+    if (dialog.ShowModal() != wxID_OK || dialog.GetValue().empty())
+        return;
+    soughtText_ = FromWx(dialog.GetValue());
+    OnFindNext();
 }
 
 void frmMain::OnFindNext() {
-    if (!soughtText_.empty())
+    if (soughtText_.empty()) {
+        OnFind();
+    } else {
         ClickFound(FindEntry(lbxTokens->Entries(), SelectedToken(), soughtText_));
-}
-
-void frmMain::OnUndo() {
-    txtTranslation->UndoChange();
+    }
 }
 
 std::optional<std::size_t> frmMain::SelectedToken() const {

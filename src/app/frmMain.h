@@ -9,9 +9,9 @@
 #include <string_view>
 
 #include "app/MakerServices.h"
+#include "app/frmWait.h"
 #include "run/Program.h"
 #include "translation/Selection.h"
-#include "widgets/frmWait.h"
 
 class wxButton;
 class wxListCtrl;
@@ -43,8 +43,7 @@ class frmMain : public wxFrame {
         PreviousKey,
         NextUntranslatedKey,
         FindKey,
-        FindNextKey,
-        UndoKey
+        FindNextKey
     };
 
     /// Fills the lists. The program must outlive the window, which shows its progress.
@@ -69,6 +68,7 @@ class frmMain : public wxFrame {
     void OnCommand(int id, Action action);
     void Guarded(Action action);
     void OnResized(wxSizeEvent& event);
+    void FitDetails();
 
     void LoadWindow();
     void FillBases();
@@ -98,7 +98,6 @@ class frmMain : public wxFrame {
     void OnNextUntranslated();
     void OnFind();
     void OnFindNext();
-    void OnUndo();
     std::optional<std::size_t> SelectedToken() const;
     void ClickFound(std::optional<std::size_t> index);
 
@@ -107,7 +106,7 @@ class frmMain : public wxFrame {
 
     Program& program_;
     MakerServices services_;
-    WaitWindow waiting_{this};
+    WaitWindow waiting_;
     std::u16string soughtText_;
 
     wxPanel* panel_ = nullptr;

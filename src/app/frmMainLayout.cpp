@@ -13,6 +13,7 @@
 #include "app/frmMain.h"
 #include "widgets/ErrorGuard.h"
 #include "widgets/Layout.h"
+#include "widgets/NativeControls.h"
 #include "widgets/SelectionList.h"
 #include "widgets/TextBox.h"
 
@@ -120,6 +121,7 @@ SelectionList* frmMain::CreateList(wxSizer& row, const char* labelName, const ch
     auto* column = new wxBoxSizer(wxVERTICAL);
     AddLabel(*panel_, *column, labelName, label);
     auto* list = new SelectionList(panel_, name, [this, onClick] { Guarded(onClick); });
+    SetAccessibleName(*list, label);
     SetLeastSize(list);
     AddToColumn(*column, list, 1);
     if (!row.IsEmpty())
@@ -132,6 +134,9 @@ void frmMain::CreateTokens(wxSizer& column) {
     AddLabel(*panel_, column, "Label6", "Tokens:");
     lbxTokens = new SelectionList(
         panel_, "lbxTokens", [this] { Guarded(&frmMain::OnTokenClick); }, wxLB_HSCROLL);
+    lbxTokens->SetRepeatable([this] { return !txtTranslation->IsChanged(); });
+    lbxTokens->SetToolTip("Ctrl+Down and Ctrl+Up: next and previous token. Ctrl+F: find a text.");
+    SetAccessibleName(*lbxTokens, "Tokens:");
     SetLeastSize(lbxTokens);
     AddToColumn(column, lbxTokens, 5);
 }
@@ -147,6 +152,7 @@ void frmMain::CreateDetails(wxSizer& column) {
                        wxLC_REPORT | wxLC_SINGLE_SEL, wxDefaultValidator, "lvwTokenDetails");
     lvwTokenDetails->AppendColumn("Token Name");
     lvwTokenDetails->AppendColumn("English Value");
+    SetAccessibleName(*lvwTokenDetails, "Original Token:");
     // The heading, a row and a scroll bar.
     lvwTokenDetails->SetMinSize(wxSize(-1, 7 * GetCharHeight() / 2));
     AddToColumn(*inner, lvwTokenDetails);
@@ -156,7 +162,10 @@ void frmMain::CreateDetails(wxSizer& column) {
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     row->Add(txtTranslation, wxSizerFlags(1).Expand());
     row->AddSpacer(FromDIP(kGap));
-    row->Add(CreateButton(*Frame1, "Update File", "cmdUpdate", &frmMain::OnUpdate));
+    wxButton* cmdUpdate = CreateButton(*Frame1, "Update File", "cmdUpdate", &frmMain::OnUpdate);
+    row->Add(cmdUpdate);
+    txtTranslation->SetToolTip("Ctrl+S: save. Ctrl+Enter: save and go to the next token.");
+    cmdUpdate->SetToolTip("Ctrl+S");
     inner->Add(row, wxSizerFlags().Expand());
     details->Add(inner, wxSizerFlags(1).Expand().Border(wxALL, FromDIP(kGap)));
     column.Add(details, wxSizerFlags().Expand().Border(wxTOP, FromDIP(kGap)));
@@ -200,7 +209,6 @@ void frmMain::CreateKeys() {
         {wxACCEL_CTRL | wxACCEL_SHIFT, WXK_DOWN, NextUntranslatedKey, &frmMain::OnNextUntranslated},
         {wxACCEL_CTRL, 'F', FindKey, &frmMain::OnFind},
         {wxACCEL_NORMAL, WXK_F3, FindNextKey, &frmMain::OnFindNext},
-        {wxACCEL_CTRL, 'Z', UndoKey, &frmMain::OnUndo},
     };
     std::vector<wxAcceleratorEntry> entries;
     for (const Key& key : kKeys) {
@@ -222,12 +230,27 @@ void frmMain::Guarded(Action action) {
 
 void frmMain::OnResized(wxSizeEvent& event) {
     event.Skip();
-    Label7->SetLabel(kDescription);
-    Label7->Wrap(event.GetSize().x - 2 * FromDIP(kWindowMargin));
-    panel_->Layout();
+    const auto arrange = [this] {
+        Label7->SetLabel(kDescription);
+        Label7->Wrap(panel_->GetSize().x - 2 * FromDIP(kWindowMargin));
+        panel_->Layout();
+        FitDetails();
+    };
+    arrange();
+    // Once more: what asks for another size while GTK gives out sizes never gets one, nor do the
+    // lists beside it when their entries become wider.
+    CallAfter(arrange);
+}
+
+/// Each column is as wide as its text. What is left over belongs to the value.
+void frmMain::FitDetails() {
     const int width = lvwTokenDetails->GetClientSize().x;
-    lvwTokenDetails->SetColumnWidth(0, width * 2 / 5);
-    lvwTokenDetails->SetColumnWidth(1, width - width * 2 / 5);
+    const int least[] = {width * 2 / 5, width - width * 2 / 5};
+    for (const int column : {0, 1}) {
+        lvwTokenDetails->SetColumnWidth(column, wxLIST_AUTOSIZE);
+        if (lvwTokenDetails->GetColumnWidth(column) < least[column])
+            lvwTokenDetails->SetColumnWidth(column, least[column]);
+    }
 }
 
 }  // namespace cvlang

@@ -9,9 +9,16 @@ namespace cvlang {
 /// The title of messages without a title of their own.
 inline constexpr std::u16string_view kProgramTitle = u"CVLangTranslator";
 
-enum class MessageButtons { Ok, YesNo, YesNoCancel };
-enum class MessageIcon { None, Critical, Question, Exclamation, Information };
-enum class MessageAnswer { Ok, Yes, No, Cancel };
+// The numbers are those of the message boxes of Windows.
+enum class MessageButtons { Ok = 0, YesNoCancel = 3, YesNo = 4 };
+enum class MessageIcon {
+    None = 0,
+    Critical = 16,
+    Question = 32,
+    Exclamation = 48,
+    Information = 64
+};
+enum class MessageAnswer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
 
 struct UserMessage {
     std::u16string text;

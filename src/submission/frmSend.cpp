@@ -11,9 +11,9 @@
 #include "widgets/Dialogs.h"
 #include "widgets/ErrorGuard.h"
 #include "widgets/Layout.h"
+#include "widgets/NativeControls.h"
 #include "widgets/Text.h"
 #include "widgets/TextBox.h"
-#include "widgets/frmWait.h"
 
 namespace cvlang {
 namespace {
@@ -50,11 +50,9 @@ frmSend::frmSend(wxWindow* parent, Program& program, SubmissionTarget target)
     txtFrom = AddField(*this, heading, "Label2", "From:", "txtFrom");
     txtSubject = AddField(*this, heading, "Label3", "Subject:", "txtSubject");
     column.AddSpacer(FromDIP(kGap));
-    txtBody = AddToColumn(
-        column,
-        new wxTextCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, FromDIP(kBodySize),
-                       wxTE_MULTILINE, wxDefaultValidator, "txtBody"),
-        1);
+    txtBody = AddToColumn(column, new TextBox(this, "txtBody", wxTE_MULTILINE), 1);
+    txtBody->SetMinSize(FromDIP(kBodySize));
+    SetAccessibleName(*txtBody, "Message:");
     column.AddSpacer(FromDIP(kGap));
     txtAttachments =
         AddField(*this, AddFields(*this, column), "Label4", "Attachments:", "txtAttachments");
@@ -97,7 +95,7 @@ void frmSend::SubmitAllFiles(const std::filesystem::path& sMapFilePath, Selectio
 void frmSend::SetMessageText(const Selection& selection) {
     txtTo->Load(target_.mailbox);
     txtSubject->Load(SubmissionSubject(selection));
-    txtBody->ChangeValue(ToWx(SubmissionBody(selection)));
+    txtBody->Load(SubmissionBody(selection));
 }
 
 void frmSend::Open(const std::vector<std::filesystem::path>& files) {
@@ -124,6 +122,7 @@ void frmSend::Attach(const std::vector<std::filesystem::path>& files) {
         names += (names.empty() ? u"" : u", ") + name;
     }
     txtAttachments->Load(names);
+    txtAttachments->SetToolTip(ToWx(names));
 }
 
 bool frmSend::ValidateAddresses() {
@@ -151,7 +150,7 @@ void frmSend::Send() {
     message_->MailTo = Utf16ToAnsi(WithoutControls(txtTo->Text()));
     message_->MailFrom = Utf16ToAnsi(WithoutControls(txtFrom->Text()));
     message_->Subject = Utf16ToAnsi(WithoutControls(txtSubject->Text()));
-    message_->MessageBody = Utf16ToAnsi(WithMailLineEnds(FromWx(txtBody->GetValue())));
+    message_->MessageBody = Utf16ToAnsi(WithMailLineEnds(txtBody->Text()));
     message_->Server = Utf16ToAnsi(target_.server);
     message_->ServerPort = target_.port;
     message_->SendMessage();

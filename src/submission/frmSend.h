@@ -11,8 +11,6 @@
 #include "run/Program.h"
 #include "submission/Submission.h"
 
-class wxTextCtrl;
-
 namespace cvlang {
 
 class TextBox;
@@ -45,7 +43,7 @@ class frmSend : public wxDialog {
     TextBox* txtTo;
     TextBox* txtFrom;
     TextBox* txtSubject;
-    wxTextCtrl* txtBody;
+    TextBox* txtBody;
     TextBox* txtAttachments;
 };
 

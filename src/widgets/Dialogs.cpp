@@ -1,5 +1,6 @@
 #include "widgets/Dialogs.h"
 
+#include <wx/app.h>
 #include <wx/button.h>
 
 #include "widgets/Layout.h"
@@ -17,6 +18,8 @@ wxSizer& StartColumn(wxDialog& dialog) {
     column->SetMinSize(dialog.FromDIP(wxSize(kComfortableWidth, -1)));
     margin->Add(column, wxSizerFlags(1).Expand().Border(wxALL, dialog.FromDIP(kWindowMargin)));
     dialog.SetSizer(margin);
+    if (auto* owner = dynamic_cast<wxTopLevelWindow*>(wxGetTopLevelParent(dialog.GetParent())))
+        dialog.SetIcons(owner->GetIcons());
     return *column;
 }
 
@@ -39,6 +42,10 @@ void AddDialogButtons(wxDialog& dialog, wxSizer& column, wxButton* action, wxBut
 void FitDialog(wxDialog& dialog) {
     dialog.GetSizer()->SetSizeHints(&dialog);
     dialog.CentreOnParent();
+}
+
+void RepaintWindows() {
+    wxTheApp->Yield(true);
 }
 
 }  // namespace cvlang

@@ -1,7 +1,7 @@
 #include "widgets/SelectionList.h"
 
-#include <wx/wupdlock.h>
-
+#include "platform/LetterCase.h"
+#include "widgets/NativeControls.h"
 #include "widgets/Text.h"
 
 namespace cvlang {
@@ -13,14 +13,20 @@ SelectionList::SelectionList(wxWindow* parent, const wxString& name, std::functi
            wxLB_SINGLE | wxLB_NEEDED_SB | style, wxDefaultValidator, name);
     Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { OnSelected(); });
     Bind(wxEVT_SET_FOCUS, &SelectionList::OnFocus, this);
+    Bind(wxEVT_LEFT_DOWN, &SelectionList::OnMouseDown, this);
+    Bind(wxEVT_LEFT_DCLICK, &SelectionList::OnMouseDown, this);
+    Bind(wxEVT_LEFT_UP, &SelectionList::OnMouseUp, this);
+    Bind(wxEVT_CHAR, &SelectionList::OnLetter, this);
 }
 
 void SelectionList::Fill(std::vector<std::u16string> entries) {
-    const wxWindowUpdateLocker locked(this);
-    Clear();
     entries_ = std::move(entries);
+    pressed_ = wxNOT_FOUND;
+    wxArrayString shown;
+    shown.Alloc(entries_.size());
     for (const std::u16string& entry : entries_)
-        Append(ToWx(entry));
+        shown.Add(ToWx(Shortened(entry)));
+    ReplaceEntries(*this, shown);
 }
 
 std::u16string SelectionList::SelectedText() const {
@@ -52,7 +58,40 @@ void SelectionList::OnSelected() {
     if (gettingFocus_) {
         SetSelection(wxNOT_FOUND);
     } else {
+        pressed_ = wxNOT_FOUND;
         onClick_();
+    }
+}
+
+// The toolkit reports no click on the entry that is selected already.
+void SelectionList::OnMouseDown(wxMouseEvent& event) {
+    event.Skip();
+    pressed_ = HitTest(event.GetPosition()) == GetSelection() ? GetSelection() : wxNOT_FOUND;
+}
+
+void SelectionList::OnMouseUp(wxMouseEvent& event) {
+    event.Skip();
+    const bool isRepeated = pressed_ != wxNOT_FOUND && HitTest(event.GetPosition()) == pressed_;
+    pressed_ = wxNOT_FOUND;
+    if (isRepeated && mayRepeat_())
+        onClick_();
+}
+
+/// A letter selects the next entry that begins with it, the same on all systems.
+void SelectionList::OnLetter(wxKeyEvent& event) {
+    const wxString letter(event.GetUnicodeKey());
+    if (event.HasModifiers() || event.GetUnicodeKey() <= WXK_SPACE) {
+        event.Skip();
+        return;
+    }
+    const std::u16string wanted = ToUpper(FromWx(letter));
+    const auto start = static_cast<std::size_t>(GetSelection() + 1);
+    for (std::size_t i = 0; i < entries_.size(); ++i) {
+        const std::size_t index = (start + i) % entries_.size();
+        if (ToUpper(std::u16string_view(entries_[index]).substr(0, wanted.size())) == wanted) {
+            Click(index);
+            return;
+        }
     }
 }
 

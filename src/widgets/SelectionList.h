@@ -12,11 +12,15 @@ namespace cvlang {
 
 class SelectionList : public wxListBox {
   public:
-    /// `onClick` is called after another entry was selected by mouse, key or code.
+    /// `onClick` is called after an entry was selected by mouse, key or code, and after a click on
+    /// the selected entry.
     SelectionList(wxWindow* parent, const wxString& name, std::function<void()> onClick,
                   long style = 0);
 
-    /// Replaces the entries; none is selected then.
+    /// Decides whether a click on the selected entry counts; without it each does.
+    void SetRepeatable(std::function<bool()> mayRepeat) { mayRepeat_ = std::move(mayRepeat); }
+
+    /// Replaces the entries; none is selected then. The beginning of a very long one is shown.
     void Fill(std::vector<std::u16string> entries);
     const std::vector<std::u16string>& Entries() const { return entries_; }
 
@@ -29,9 +33,14 @@ class SelectionList : public wxListBox {
   private:
     void OnFocus(wxFocusEvent& event);
     void OnSelected();
+    void OnMouseDown(wxMouseEvent& event);
+    void OnMouseUp(wxMouseEvent& event);
+    void OnLetter(wxKeyEvent& event);
 
     std::vector<std::u16string> entries_;  // a control may show a text otherwise than it is
     std::function<void()> onClick_;
+    std::function<bool()> mayRepeat_ = [] { return true; };
+    int pressed_ = wxNOT_FOUND;  // the selected entry while the mouse is down on it
     bool gettingFocus_ = false;
 };
 

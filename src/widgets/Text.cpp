@@ -26,4 +26,9 @@ std::u16string FromWx(const wxString& text) {
     return units;
 }
 
+std::u16string_view Shortened(std::u16string_view text) {
+    constexpr std::size_t kDrawable = 2000;
+    return text.substr(0, kDrawable);
+}
+
 }  // namespace cvlang

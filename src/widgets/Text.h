@@ -15,4 +15,7 @@ wxString ToWx(std::u16string_view text);
 /// The program's form of a toolkit's text; undoes ToWx for every text.
 std::u16string FromWx(const wxString& text);
 
+/// What is shown of a text in a row: systems cannot draw very long ones.
+std::u16string_view Shortened(std::u16string_view text);
+
 }  // namespace cvlang

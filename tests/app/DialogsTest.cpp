@@ -7,7 +7,7 @@ namespace {
 
 constexpr const char* kTokenName = "Token Name:";
 constexpr const char* kTokenValue = "English Value:";
-constexpr long kYesNoCancel = wxYES_NO | wxCANCEL | wxICON_NONE;
+constexpr long kYesNoCancel = wxYES_NO | wxCANCEL;
 
 class Dialogs : public MainWindow {
   protected:

@@ -3,7 +3,9 @@
 #include <wx/gauge.h>
 #include <wx/listctrl.h>
 #include <wx/textdlg.h>
-#include <wx/uiaction.h>
+
+#include <cstdlib>
+#include <set>
 
 #include "app/MainWindowFixture.h"
 #include "widgets/Text.h"
@@ -61,6 +63,7 @@ TEST_F(MainWindow, SavesWhatIsTypedAndNothingElse) {
         PutFile(kFrenchMap, bytes);
         Pick(Window(), kTokens, kBye);
         Pick(Window(), kTokens, kHello);
+        EXPECT_EQ(Find<TextBox>(Window(), kTranslation).IsEditable(), value.size() < 100);
         Press(Window(), "Update File");
         EXPECT_EQ(FileBytes(kFrenchMap), bytes);
         if (value.size() < 100) {
@@ -91,20 +94,6 @@ TEST_F(MainWindow, AppliesATranslationAndSaysSoWhateverHappened) {
     apply("");
 }
 
-TEST_F(MainWindow, CannotBeUsedWhileItAsksForPatience) {
-    Window();
-    program_.progress->Begin();
-    auto& wait = Find<wxDialog>(Window(), "Please Wait ...");
-    EXPECT_TRUE(wait.IsShown() && wxIsBusy() && !Window().IsEnabled());
-    program_.progress->Expect([] { return 4; });
-    wxMilliSleep(60);
-    program_.progress->Step();
-    EXPECT_EQ(Find<wxGauge>(wait, "gauge").GetValue(), 1);
-    program_.progress->End();
-    Settle();
-    EXPECT_TRUE(!wxIsBusy() && Window().IsEnabled() && !wxWindow::FindWindowByName("frmWait"));
-}
-
 TEST_F(MainWindow, WorksWithoutAnyBase) {
     std::filesystem::remove_all("NETWebMail");
     script_.ExpectBox("Setup Issue", "Error: No web applications wewre detected", kCritical);
@@ -125,34 +114,117 @@ TEST_F(MainWindow, LivesOnAfterAnUnexpectedError) {
     Press(Window(), "Update File");
 }
 
-class MainWindowKeys : public MainWindow {
+/// Real input, which xdotool sends to the display.
+class MainWindowInput : public MainWindow {
   protected:
     void SetUp() override {
         if (wxPlatformInfo::Get().GetPortId() != wxPORT_GTK)
-            GTEST_SKIP() << "simulated keys do not arrive here";
+            GTEST_SKIP() << "simulated input does not arrive here";
         Window().Raise();
-        Settle();
+        WaitForInput();
     }
 
-    /// A key goes to whatever has the focus.
-    static void Key(int code, int modifiers = wxMOD_NONE) {
-        wxUIActionSimulator().Char(code, modifiers);
-        WaitForKeys();
+    static void Send(const std::string& action) {
+        EXPECT_EQ(std::system(("xdotool " + action).c_str()), 0) << action;
     }
-    static void WaitForKeys() {
+    static void Input(const std::string& action) {
+        Send(action);
+        WaitForInput();
+    }
+    static void WaitForInput() {
         for (int i = 0; i < 10; ++i) {
             wxMilliSleep(10);
             Settle();
         }
     }
+    static std::string ClickAt(const wxPoint& place) {
+        return "mousemove " + std::to_string(place.x) + " " + std::to_string(place.y) + " click 1";
+    }
+    void ClickFirstOf(const char* list) {
+        Input(ClickAt(Find<wxWindow>(Window(), list).GetScreenPosition() + wxPoint(20, 12)));
+    }
 };
 
-TEST_F(MainWindowKeys, WalkThroughAllControlsWithoutClickingAnything) {
+int FilledPixels(const wxImage& bar) {
+    int filled = 0;
+    for (int x = 0; x < bar.GetWidth(); ++x)
+        filled += bar.GetBlue(x, bar.GetHeight() / 2) > bar.GetRed(x, bar.GetHeight() / 2) + 60;
+    return filled;
+}
+
+TEST_F(MainWindowInput, HasNoEffectWhileTheProgramAsksForPatience) {
+    const wxRect quit = Find<wxWindow>(Window(), "Quit").GetScreenRect();
+    program_.progress->Begin();
+    auto& wait = Find<wxDialog>(Window(), "Please Wait ...");
+    program_.progress->Expect([] { return 4; });
+    for (const int done : {1, 2, 3}) {
+        wxMilliSleep(110);
+        program_.progress->Step();
+        const wxRect bar = Find<wxGauge>(wait, "gauge").GetScreenRect();
+        EXPECT_NEAR(FilledPixels(ScreenPixels(bar)), bar.width * done / 4, 20);
+    }
+    const wxRect label = Find<wxWindow>(wait, "lblStatusMessage").GetScreenRect();
+    EXPECT_GT(ShareOfDark(ScreenPixels(label)), 0.02);
+    Send("key Escape key alt+F4 " + ClickAt(quit.GetPosition() + wxPoint(9, 9)) + " key Return");
+    Settle();
+    EXPECT_TRUE(wait.IsShown() && wxIsBusy() && !Window().IsEnabled());
+    Send(ClickAt(quit.GetPosition() + wxPoint(9, 9)) + " key Return");
+    program_.progress->End();
+    WaitForInput();
+    EXPECT_TRUE(!wxIsBusy() && Window().IsEnabled() && !wxWindow::FindWindowByName("frmWait"));
+    EXPECT_TRUE(Window().IsShown());
+}
+
+TEST_F(MainWindowInput, AnswersBoxesWithIcons) {
+    std::set<std::string> pictures;
+    for (const auto icon : {MessageIcon::None, MessageIcon::Critical, MessageIcon::Question,
+                            MessageIcon::Exclamation, MessageIcon::Information}) {
+        const bool agrees = icon == MessageIcon::Question;
+        script_.ExpectDialog("Icon", [&](wxDialog& dialog) {
+            const wxImage picture = ScreenPixels({dialog.GetScreenPosition(), wxSize(60, 90)});
+            pictures.insert({reinterpret_cast<char*>(picture.GetData()), 60UL * 90 * 3});
+            Input(agrees ? "key Return" : "key Escape");
+        });
+        EXPECT_EQ(boxes_.Show({u"Text", u"Icon", MessageButtons::YesNo, icon}),
+                  agrees ? MessageAnswer::Yes : MessageAnswer::No);
+    }
+    EXPECT_EQ(pictures.size(), 5U);
+}
+
+TEST_F(MainWindowInput, ClicksTheSelectedEntryAndFindsOneByItsLetter) {
+    ClickFirstOf(kApplicationList);  // is selected since the start
+    EXPECT_EQ(Entries(kTokens).size(), 3U);
+    const auto publish = [](const std::u16string& value) {
+        PutFile("WebMail-default.net-tokens-zh.map",
+                Utf16Bytes(u"[CV_TXT-HELLO]\t" + value + u"\r\n"));
+    };
+    const std::pair<const char*, std::u16string> clicks[] = {
+        {kLanguages, u"1"}, {kLanguages, u"2"}, {kTokens, u"3"}};
+    for (const auto& [list, value] : clicks) {
+        publish(value);
+        ClickFirstOf(list);
+        EXPECT_EQ(Translation(), value);
+    }
+    Type(Window(), kTranslation, u"not saved");
+    ClickFirstOf(kTokens);
+    EXPECT_EQ(Translation(), u"not saved");
+    Press(Window(), "Update File");
+    publish(u"4");
+    ClickFirstOf(kTokens);
+    EXPECT_EQ(Translation(), u"4");
+
+    Find<wxWindow>(Window(), kLanguages).SetFocus();
+    Input("key f");
+    EXPECT_EQ(Find<SelectionList>(Window(), kLanguages).SelectedText(), u"French");
+    EXPECT_EQ(Translation(), u"Bonjour");
+}
+
+TEST_F(MainWindowInput, WalkThroughAllControlsWithoutClickingAnything) {
     Find<wxWindow>(Window(), kApplicationList).SetFocus();
     wxString names;
     for (int i = 0; i < 11; ++i) {
         names += wxWindow::FindFocus()->GetName() + " ";
-        Key(WXK_TAB);
+        Input("key Tab");
     }
     EXPECT_EQ(names,
               "lstApplication lstBases lstLanguages lbxTokens lvwTokenDetails txtTranslation "
@@ -160,60 +232,65 @@ TEST_F(MainWindowKeys, WalkThroughAllControlsWithoutClickingAnything) {
     EXPECT_EQ(Find<SelectionList>(Window(), kLanguages).SelectedText(), u"");
 
     Find<wxWindow>(Window(), kLanguages).SetFocus();
-    Key(WXK_DOWN);  // an arrow key does click
+    Settle();
+    Input("key Down");  // an arrow key does click
     EXPECT_NE(Find<SelectionList>(Window(), kLanguages).SelectedText(), u"");
     EXPECT_EQ(Entries(kTokens).size(), 3U);
 }
 
-TEST_F(MainWindowKeys, SaveFindAndMoveOn) {
+TEST_F(MainWindowInput, SaveFindAndMoveOn) {
     Pick(Window(), kLanguages, u"French");
     Find<wxWindow>(Window(), kTranslation).SetFocus();
     Find<TextBox>(Window(), kTranslation).SetInsertionPointEnd();
-    wxUIActionSimulator().Text("ab");
-    WaitForKeys();
+    Input("type ab");
     EXPECT_EQ(Translation(), u"Bonjourab");
-    Key('Z', wxMOD_CONTROL);
-    EXPECT_EQ(Translation(), u"Bonjour");
-    Key('C');
-    Key('S', wxMOD_CONTROL);
+    for (const char* redo : {"key ctrl+y", "key ctrl+shift+z"}) {
+        Input("key ctrl+z");
+        EXPECT_EQ(Translation(), u"Bonjour");
+        Input(redo);
+        EXPECT_EQ(Translation(), u"Bonjourab");
+    }
+    Input("key ctrl+z c ctrl+s");
     EXPECT_EQ(FileBytes(kFrenchMap),
               Utf16Bytes(u"[CV_TXT-HELLO]\tBonjourc\r\n[CV_TXT-BYE]\tAu revoir\r\n"));
-    Key('D');
-    Key(WXK_RETURN, wxMOD_CONTROL);
+    Input("key d ctrl+Return ctrl+z");  // there is nothing to undo in the next token
+    EXPECT_EQ(Translation(), u"Au revoir");
     EXPECT_EQ(FileBytes(kFrenchMap),
               Utf16Bytes(u"[CV_TXT-HELLO]\tBonjourcd\r\n[CV_TXT-BYE]\tAu revoir\r\n"));
-    script_.ExpectDialog("Find", [](wxDialog& dialog) {
-        dynamic_cast<wxTextEntryDialog&>(dialog).SetValue("O");
-        dialog.EndModal(wxID_OK);
-    });
-    const std::tuple<int, int, std::u16string> moves[] = {
-        {WXK_UP, wxMOD_CONTROL, kHello},
-        {WXK_DOWN, wxMOD_CONTROL | wxMOD_SHIFT, kNew},
-        {WXK_DOWN, wxMOD_CONTROL, kNew},
-        {'S', wxMOD_CONTROL, kNew},  // an empty text is no translation
-        {'F', wxMOD_CONTROL, kHello},
-        {WXK_F3, wxMOD_NONE, kBye},
-        {WXK_DOWN, wxMOD_CONTROL | wxMOD_SHIFT, kNew}};
+    for (const char* wanted : {"O", "BYE"}) {
+        script_.ExpectDialog("Find", [wanted](wxDialog& dialog) {
+            dynamic_cast<wxTextEntryDialog&>(dialog).SetValue(wanted);
+            dialog.EndModal(wxID_OK);
+        });
+    }
+    const std::pair<const char*, std::u16string> moves[] = {
+        {"ctrl+Up", kHello}, {"ctrl+shift+Down", kNew},
+        {"ctrl+Down", kNew}, {"ctrl+s", kNew},  // an empty text is no translation
+        {"F3", kHello},                         // asks what to find
+        {"F3", kBye},        {"ctrl+Up", kHello},
+        {"ctrl+f", kBye},    {"ctrl+shift+Down", kNew}};
     EXPECT_EQ(Token(), kBye);
-    for (const auto& [key, modifiers, token] : moves) {
-        Key(key, modifiers);
-        EXPECT_EQ(Token(), token);
+    for (const auto& [key, token] : moves) {
+        Input(std::string("key ") + key);
+        EXPECT_EQ(Token(), token) << key;
     }
     Type(Window(), kTranslation, u"not saved");
-    Key(WXK_DOWN, wxMOD_CONTROL | wxMOD_SHIFT);  // finds the same token: nothing is loaded
+    Input("key ctrl+shift+Down");  // finds the same token: nothing is loaded
     EXPECT_EQ(Translation(), u"not saved");
 }
 
-TEST_F(MainWindowKeys, PasteOnOneLine) {
+TEST_F(MainWindowInput, PasteOnOneLine) {
     Pick(Window(), kLanguages, u"French");
     Pick(Window(), kTokens, kNew);
     Find<wxWindow>(Window(), kTranslation).SetFocus();
     ASSERT_TRUE(wxTheClipboard->Open());
     wxTheClipboard->SetData(new wxTextDataObject("a\r\nb\tc\nd"));
     wxTheClipboard->Close();
-    Key('V', wxMOD_CONTROL);
+    Input("key ctrl+v");
     EXPECT_EQ(Translation(), u"a b c d");
     Find<TextBox>(Window(), kTranslation).WriteText("\te");  // as if it were dropped
+    EXPECT_EQ(Translation(), u"a b c d e");
+    Find<TextBox>(Window(), kTranslation).WriteText(wxString('x', 70000));  // is too long
     EXPECT_EQ(Translation(), u"a b c d e");
 }
 

@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 
 #include "app/MainWindowFixture.h"
+#include "app/frmWait.h"
 #include "mail/ScriptedPeer.h"
-#include "widgets/frmWait.h"
 
 namespace cvlang {
 namespace {
@@ -35,7 +35,7 @@ class Submitting : public MainWindow {
     void ExpectSuccess() {
         script_.ExpectBox("Language Token File(s) Sent",
                           "Language token file(s) submitted successfully to Corvane",
-                          wxOK | wxICON_NONE);
+                          wxOK);
     }
 
     const std::filesystem::path folder_ = fake_.folder / "\u65E5";
@@ -89,8 +89,6 @@ TEST_F(Submitting, ReportsSuccessThoughTheServerRefuses) {
 }
 
 struct FailingWait : WaitWindow {
-    using WaitWindow::WaitWindow;
-
     void Step() override {
         EXPECT_NE(wxWindow::FindWindowByName("frmWait"), nullptr);
         throw std::runtime_error("No memory left");
@@ -99,7 +97,8 @@ struct FailingWait : WaitWindow {
 
 TEST_F(Submitting, SurvivesAnErrorAmidTheMail) {
     ScriptedPeer server("220");
-    FailingWait waiting(&WindowWith(server));
+    WindowWith(server);
+    FailingWait waiting;
     program_.progress = &waiting;
     script_.ExpectDialog("Submit Language Files", [](wxDialog& dialog) {
         Send(dialog, u"t@x", u"f@x");

@@ -128,10 +128,16 @@ void Type(wxWindow& parent, const wxString& box, const std::u16string& text) {
 
 wxImage ScreenPixels(const wxRect& place) {
     Draw();
+    if (wxPlatformInfo::Get().GetPortId() != wxPORT_GTK) {
+        wxBitmap copy(place.GetSize(), 24);
+        wxScreenDC screen;
+        wxMemoryDC(copy).Blit({0, 0}, place.GetSize(), &screen, place.GetPosition());
+        return copy.ConvertToImage();
+    }
     // GTK itself would give the first picture again.
     const wxString command =
-        wxString::Format(UNIX_PROGRAM "import -window root -crop %dx%d+%d+%d +repage bmp3:screen",
-                         place.width, place.height, place.x, place.y);
+        wxString::Format("import -window root -crop %dx%d+%d+%d +repage bmp3:screen", place.width,
+                         place.height, place.x, place.y);
     EXPECT_EQ(std::system(command.utf8_str()), 0);
     return {"screen", wxBITMAP_TYPE_BMP};
 }
@@ -178,13 +184,17 @@ void WindowScript::ExpectDialog(const wxString& title, std::function<void(wxDial
 }
 
 int WindowScript::Enter(wxDialog* dialog) {
+    if (dialog == shown_)
+        return wxID_NONE;
     if (steps_.empty()) {
         ADD_FAILURE() << "not foreseen: " << dialog->GetTitle();
         return wxID_CANCEL;
     }
     const auto step = steps_.front().second;
     steps_.pop_front();
-    return step(*dialog);
+    const int answer = step(*dialog);
+    shown_ = answer == wxID_NONE ? dialog : nullptr;
+    return answer;
 }
 
 }  // namespace cvlang

@@ -68,9 +68,11 @@ class WindowScript : private wxModalDialogHook {
 
   private:
     int Enter(wxDialog* dialog) override;
+    void Exit(wxDialog*) override { shown_ = nullptr; }
 
     /// What is foreseen, by its title: looks at the dialog and returns the answer.
     std::deque<std::pair<wxString, std::function<int(wxDialog&)>>> steps_;
+    wxDialog* shown_ = nullptr;  // some dialogs report twice that they are shown
 };
 
 }  // namespace cvlang

@@ -19,23 +19,27 @@ class frmWait : public wxDialog {
   public:
     explicit frmWait(wxWindow* parent);
 
+    /// Returns when the window is seen.
+    void ShowAndDraw();
     void Expect(std::size_t steps);
     void Step();
 
   private:
+    void Draw(long limit);
     void ShowProgress();
 
     wxGauge* progress_;
+    bool isDrawn_ = false;  // since it was last asked to
     std::size_t toDo_ = 0;
     std::size_t done_ = 0;
     wxStopWatch sinceShown_;  // since the bar was last drawn
 };
 
-/// Announces long work with the hourglass and the wait window. All input is refused meanwhile.
+/// Announces long work with the hourglass and the wait window. What the user does meanwhile has no
+/// effect, also not afterwards.
 class WaitWindow : public Progress {
   public:
-    /// The parent must outlive the object.
-    explicit WaitWindow(wxWindow* parent);
+    WaitWindow();
     ~WaitWindow() override;
 
     void Begin() override;
@@ -45,11 +49,7 @@ class WaitWindow : public Progress {
 
   private:
     struct Shown;
-    wxWindow* parent_;
     std::unique_ptr<Shown> shown_;
 };
-
-/// Lets the windows repaint once, with all input refused: nothing can be pressed again meanwhile.
-void RepaintWindows();
 
 }  // namespace cvlang

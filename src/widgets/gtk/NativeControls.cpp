@@ -1,0 +1,40 @@
+#include "widgets/NativeControls.h"
+
+#include <gtk/gtk.h>
+
+namespace cvlang {
+namespace {
+
+/// The toolkit's list is a tree view inside a scrolled window.
+GtkTreeView* TreeOf(const wxListBox& list) {
+    return GTK_TREE_VIEW(gtk_bin_get_child(GTK_BIN(list.GetHandle())));
+}
+
+/// The part that takes the focus lies inside of what the toolkit knows.
+void NameWidget(GtkWidget* widget, gpointer name) {
+    atk_object_set_name(gtk_widget_get_accessible(widget), static_cast<const char*>(name));
+    if (GTK_IS_CONTAINER(widget))
+        gtk_container_foreach(GTK_CONTAINER(widget), NameWidget, name);
+}
+
+}  // namespace
+
+void ReplaceEntries(wxListBox& list, const wxArrayString& entries) {
+    GtkTreeView* tree = TreeOf(list);
+    GtkTreeModel* rows = gtk_tree_view_get_model(tree);
+    list.Clear();
+    // Rows that are added to a visible list are reported to screen readers one by one.
+    g_object_ref(rows);
+    gtk_tree_view_set_model(tree, nullptr);
+    list.Set(entries);
+    gtk_tree_view_set_model(tree, rows);
+    g_object_unref(rows);
+    gtk_adjustment_set_value(gtk_scrollable_get_hadjustment(GTK_SCROLLABLE(tree)), 0);
+}
+
+void SetAccessibleName(wxWindow& control, const wxString& name) {
+    std::string text = name.utf8_string();
+    NameWidget(control.GetHandle(), text.data());
+}
+
+}  // namespace cvlang

@@ -1,0 +1,17 @@
+#include "widgets/NativeControls.h"
+
+#include <windows.h>
+#include <wx/wupdlock.h>
+
+namespace cvlang {
+
+void ReplaceEntries(wxListBox& list, const wxArrayString& entries) {
+    const wxWindowUpdateLocker locked(&list);
+    list.Set(entries);
+    SendMessageW(list.GetHandle(), WM_HSCROLL, SB_LEFT, 0);
+}
+
+// Screen readers take the text of the label that was created before the control.
+void SetAccessibleName(wxWindow&, const wxString&) {}
+
+}  // namespace cvlang
