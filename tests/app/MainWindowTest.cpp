@@ -43,6 +43,8 @@ TEST_F(MainWindow, OpensWithNoLanguageAndListsTokensWhenOneIsClicked) {
 
 TEST_F(MainWindow, FitsTheScreen) {
     EXPECT_TRUE(wxDisplay(&Window()).GetClientArea().Contains(Window().GetScreenRect()));
+    if (wxPlatformInfo::Get().GetPortId() != wxPORT_GTK)
+        return;  // Wine shows the screen's pixels to no program
     for (const char* button :
          {"Update File", "Add Token...", "Remove Token...", "Apply Translation", "Quit"}) {
         const wxImage picture = ScreenPixels(Find<wxButton>(Window(), button).GetScreenRect());

@@ -34,8 +34,7 @@ class Submitting : public MainWindow {
     }
     void ExpectSuccess() {
         script_.ExpectBox("Language Token File(s) Sent",
-                          "Language token file(s) submitted successfully to Corvane",
-                          wxOK);
+                          "Language token file(s) submitted successfully to Corvane", wxOK);
     }
 
     const std::filesystem::path folder_ = fake_.folder / "\u65E5";

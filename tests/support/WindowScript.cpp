@@ -128,12 +128,6 @@ void Type(wxWindow& parent, const wxString& box, const std::u16string& text) {
 
 wxImage ScreenPixels(const wxRect& place) {
     Draw();
-    if (wxPlatformInfo::Get().GetPortId() != wxPORT_GTK) {
-        wxBitmap copy(place.GetSize(), 24);
-        wxScreenDC screen;
-        wxMemoryDC(copy).Blit({0, 0}, place.GetSize(), &screen, place.GetPosition());
-        return copy.ConvertToImage();
-    }
     // GTK itself would give the first picture again.
     const wxString command =
         wxString::Format("import -window root -crop %dx%d+%d+%d +repage bmp3:screen", place.width,
