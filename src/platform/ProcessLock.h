@@ -1,8 +1,8 @@
 // Keeping two processes of this program from changing the same files at the same time.
 #pragma once
 
-#include <cstdint>
 #include <filesystem>
+#include <memory>
 
 namespace cvlang {
 
@@ -13,12 +13,9 @@ class ProcessLock {
   public:
     /// Waits until no other process holds the lock of this folder.
     explicit ProcessLock(const std::filesystem::path& folder);
-    ~ProcessLock();
-    ProcessLock(const ProcessLock&) = delete;
-    ProcessLock& operator=(const ProcessLock&) = delete;
 
   private:
-    std::intptr_t handle_;  // a directory on Linux, a mutex on Windows
+    std::shared_ptr<void> held_;  // a directory on Linux, a mutex on Windows
 };
 
 }  // namespace cvlang

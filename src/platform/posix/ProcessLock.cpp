@@ -21,12 +21,8 @@ ProcessLock::ProcessLock(const std::filesystem::path& folder) {
     while (directory >= 0 && flock(directory, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK &&
            std::chrono::steady_clock::now() < end)
         std::this_thread::sleep_for(5ms);
-    handle_ = directory;
-}
-
-ProcessLock::~ProcessLock() {
-    if (handle_ >= 0)
-        close(static_cast<int>(handle_));
+    if (directory >= 0)
+        held_ = std::shared_ptr<void>(nullptr, [directory](void*) { close(directory); });
 }
 
 }  // namespace cvlang

@@ -30,18 +30,14 @@ ProcessLock::ProcessLock(const std::filesystem::path& folder) {
     InitializeSecurityDescriptor(&everybody, SECURITY_DESCRIPTOR_REVISION);
     SetSecurityDescriptorDacl(&everybody, TRUE, nullptr, FALSE);
     SECURITY_ATTRIBUTES attributes{sizeof attributes, &everybody, FALSE};
-    const HANDLE mutex = CreateMutexW(&attributes, FALSE, MutexName(folder).c_str());
-    handle_ = reinterpret_cast<std::intptr_t>(mutex);
-    if (mutex != nullptr)
-        WaitForSingleObject(mutex, kPatienceInMilliseconds);
-}
-
-ProcessLock::~ProcessLock() {
-    const auto mutex = reinterpret_cast<HANDLE>(handle_);
-    if (mutex == nullptr)
+    const HANDLE created = CreateMutexW(&attributes, FALSE, MutexName(folder).c_str());
+    if (created == nullptr)
         return;
-    ReleaseMutex(mutex);  // fails after a time-out
-    CloseHandle(mutex);
+    WaitForSingleObject(created, kPatienceInMilliseconds);
+    held_ = std::shared_ptr<void>(created, [](HANDLE mutex) {
+        ReleaseMutex(mutex);  // fails after a time-out
+        CloseHandle(mutex);
+    });
 }
 
 }  // namespace cvlang
