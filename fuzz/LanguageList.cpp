@@ -3,7 +3,6 @@
 
 #include "fuzz/Fuzz.h"
 #include "platform/Ansi.h"
-#include "platform/LetterCase.h"
 #include "text/Strings.h"
 
 void cvlang::Try(std::string_view input) {

@@ -3,7 +3,7 @@
 #include <functional>
 #include <unordered_set>
 
-#include "platform/LetterCase.h"
+#include "platform/Ansi.h"
 #include "translation/TokenMapFile.h"
 
 namespace cvlang {

@@ -1,28 +1,29 @@
 // Loads window mode from its module. Without the module, the program behaves as without a display.
 #include "app/WindowMode.h"
 #include "platform/Process.h"
-#include "platform/SharedModule.h"
 
 namespace cvlang {
 namespace {
 
 template <typename Function>
-Function* FromModule(const char* name) {
-    return reinterpret_cast<Function*>(FindInModule("libCVLangTranslatorWindow.so", name));
+Function* FromModule(const char* name, std::u16string& reason) {
+    return reinterpret_cast<Function*>(FindInModule("libCVLangTranslatorWindow.so", name, reason));
 }
 
 }  // namespace
 
 ExitStatus ShowMainWindow(const Configuration& config, Logs& logs) {
-    const auto show = FromModule<int(const Configuration*, Logs*)>("CVLangShowMainWindow");
+    std::u16string reason;
+    const auto show = FromModule<int(const Configuration*, Logs*)>("CVLangShowMainWindow", reason);
     if (show != nullptr)
         return static_cast<ExitStatus>(show(&config, &logs));
-    WriteErrorLine(ReasonNothingWasFound());
+    WriteErrorLine(reason);
     return ExitStatus::NoWindow;
 }
 
 bool ShowInBox(const UserMessage& message) {
-    const auto show = FromModule<int(const UserMessage*)>("CVLangShowInBox");
+    std::u16string reason;
+    const auto show = FromModule<int(const UserMessage*)>("CVLangShowInBox", reason);
     return show != nullptr && show(&message) != 0;
 }
 

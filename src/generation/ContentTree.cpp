@@ -5,9 +5,8 @@
 #include <vector>
 
 #include "platform/Ansi.h"
+#include "platform/FileCopy.h"
 #include "platform/FileSystem.h"
-#include "platform/FolderCopy.h"
-#include "platform/FolderListing.h"
 #include "platform/Paths.h"
 #include "platform/ProcessLock.h"
 #include "text/AsciiCase.h"

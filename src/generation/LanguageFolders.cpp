@@ -1,7 +1,7 @@
 #include "generation/LanguageFolders.h"
 
-#include "platform/FolderListing.h"
-#include "platform/LetterCase.h"
+#include "platform/Ansi.h"
+#include "platform/FileSystem.h"
 #include "platform/Paths.h"
 #include "translation/LanguageList.h"
 #include "translation/StorePaths.h"

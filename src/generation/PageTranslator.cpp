@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "platform/LetterCase.h"
+#include "platform/Ansi.h"
 #include "platform/Paths.h"
 #include "text/AsciiCase.h"
 

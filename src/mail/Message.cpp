@@ -8,7 +8,7 @@
 #include "mail/MessageText.h"
 #include "mail/SmtpDialogue.h"
 #include "platform/Ansi.h"
-#include "platform/FolderListing.h"
+#include "platform/FileSystem.h"
 #include "platform/Paths.h"
 #include "text/Strings.h"
 

@@ -9,10 +9,8 @@ std::optional<std::string> Utf16ToAnsiExactly(std::u16string_view text) {
         bits |= c;
     if (bits < 0x80)
         return std::string(text.begin(), text.end());
-    std::string bytes = Utf16ToAnsi(text);
-    if (AnsiToUtf16(bytes) != text)
-        return std::nullopt;
-    return bytes;
+    const std::string bytes = Utf16ToAnsi(text);
+    return AnsiToUtf16(bytes) == text ? std::optional(bytes) : std::nullopt;
 }
 
 }  // namespace cvlang

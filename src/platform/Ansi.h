@@ -1,4 +1,5 @@
-// Text in the ANSI code page: the system's on Windows, Windows-1252 on Linux.
+// Text in the ANSI code page (the system's on Windows, Windows-1252 on Linux), and letter case
+// without regard to the user's locale.
 #pragma once
 
 #include <optional>
@@ -15,5 +16,8 @@ std::string Utf16ToAnsi(std::u16string_view text);
 
 /// The ANSI bytes of a text, or nothing when the code page lacks one of its characters.
 std::optional<std::string> Utf16ToAnsiExactly(std::u16string_view text);
+
+/// The text in upper case, letter by letter, so its length is the same (é becomes É, ß stays).
+std::u16string ToUpper(std::u16string_view text);
 
 }  // namespace cvlang

@@ -1,8 +1,9 @@
-// Files of one folder that take their place in another: copied as they are, or written as pages.
+// Files of one folder that take their place in another: copied as they are, or written as pages;
+// and whole folders.
 #pragma once
 
 #include <filesystem>
-#include <memory>
+#include <functional>
 #include <string_view>
 
 #include "platform/FileSystem.h"
@@ -14,18 +15,12 @@ enum class CopiedAttributes {
     Archive  // archive alone, which clears read-only
 };
 
-/// Where an entry of a folder is to be written.
-struct TargetName {
-    std::filesystem::path name;
-    bool exists;
-};
-
 /// One file on its way from a folder to another.
 struct CopiedFile {
     const Folder& from;
     const std::filesystem::path& name;
     const Folder& to;
-    TargetName target;
+    EntryName target;
     CopiedAttributes attributes;
 };
 
@@ -44,20 +39,15 @@ bool WritePage(const CopiedFile& file, std::string_view bytes, const FileContent
 /// are.
 void ResetAttributes(const Folder& folder, const std::filesystem::path& name);
 
-/// The spellings that names have in a folder that files are to be copied to.
-class TargetNames {
-  public:
-    /// A folder that was just created needs no look at the disk.
-    TargetNames(const std::filesystem::path& folder, bool folderIsNew);
-    ~TargetNames();
-    TargetNames(const TargetNames&) = delete;
-    TargetNames& operator=(const TargetNames&) = delete;
+/// Called for each file, to copy it.
+using FileCopier = std::function<void(const CopiedFile& file)>;
 
-    TargetName Find(const std::filesystem::path& name) const;
-
-  private:
-    struct Names;
-    std::unique_ptr<Names> names_;  // none for a new folder
-};
+/// Copies the content of `from` into the existing folder `to`. First come the files directly in it,
+/// with only the archive attribute, then its folders. Deliberate: files in these keep their
+/// attributes. A link to a folder is followed in `from`, unless it leads back to a folder that is
+/// being copied. A link in `to` and everything behind it are unchanged. No folder is copied onto
+/// itself.
+void CopyFolder(const std::filesystem::path& from, const std::filesystem::path& to, bool toIsNew,
+                const FileCopier& copyFile);
 
 }  // namespace cvlang

@@ -1,6 +1,7 @@
-#include <cstring>
-
 #include "platform/FileSystem.h"
+
+#include <algorithm>
+#include <cstring>
 
 namespace cvlang {
 
@@ -12,6 +13,17 @@ void FileContent::Reserve(std::size_t capacity) {
         std::memcpy(larger.get(), buffer_.get(), size_);
     buffer_ = std::move(larger);
     capacity_ = capacity;
+}
+
+bool IsWithin(const std::filesystem::path& inner, const std::filesystem::path& outer) {
+    return !outer.empty() &&
+           std::mismatch(outer.begin(), outer.end(), inner.begin(), inner.end()).first ==
+               outer.end();
+}
+
+bool IsSameFolder(const std::filesystem::path& a, const std::filesystem::path& b) {
+    std::error_code ignored;
+    return std::filesystem::equivalent(a, b, ignored);
 }
 
 }  // namespace cvlang

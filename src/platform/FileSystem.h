@@ -8,6 +8,7 @@
 #include <memory>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 namespace cvlang {
 
@@ -81,5 +82,55 @@ bool RenameFile(const std::filesystem::path& from, const std::filesystem::path& 
 
 /// Creates one folder. False when it exists already or cannot be created.
 bool CreateFolder(const std::filesystem::path& path);
+
+/// The names of the entries directly in a folder, sorted as file managers do. On Windows junctions
+/// count as links.
+struct FolderListing {
+    std::vector<std::filesystem::path> files;        // links to files among them
+    std::vector<std::filesystem::path> linkedFiles;  // these again, and links to nothing
+    std::vector<std::filesystem::path> folders;
+    std::vector<std::filesystem::path> linkedFolders;
+};
+
+/// Lists the folder of exactly this name. The lists are empty when it cannot be read.
+FolderListing ListFolder(const std::filesystem::path& folder);
+
+/// Whether two of its files, or two of its folders, have names that differ only in letter case.
+bool HasAlikeNames(const FolderListing& listing);
+
+/// Whether the path is a link to a folder.
+bool IsLinkedFolder(const std::filesystem::path& path);
+
+/// The path with all links resolved; empty when it does not exist.
+std::filesystem::path RealPath(const std::filesystem::path& path);
+
+/// Whether `inner` is `outer` or below it. Both are real paths; an empty path contains nothing.
+bool IsWithin(const std::filesystem::path& inner, const std::filesystem::path& outer);
+
+/// Whether the two paths lead to the same folder.
+bool IsSameFolder(const std::filesystem::path& a, const std::filesystem::path& b);
+
+/// The name of an entry of a folder, as it is spelt on the disk if it exists.
+struct EntryName {
+    std::filesystem::path name;
+    bool exists;
+};
+
+/// The spellings that names have in a folder, read once.
+class EntryNames {
+  public:
+    /// A folder that was just created needs no look at the disk.
+    explicit EntryNames(const std::filesystem::path& folder, bool folderIsNew = false);
+    ~EntryNames();
+    EntryNames(const EntryNames&) = delete;
+    EntryNames& operator=(const EntryNames&) = delete;
+
+    /// The entry of exactly this name, otherwise one that differs only in letter case.
+    EntryName Find(const std::filesystem::path& name) const;
+
+  private:
+    struct Names;
+    std::unique_ptr<Names> names_;  // none for a new folder
+};
 
 }  // namespace cvlang

@@ -1,4 +1,4 @@
-// The process: its command line, environment, limits and standard error.
+// The process: its command line, environment, limits, standard error and modules.
 #pragma once
 
 #include <string>
@@ -26,5 +26,9 @@ bool WindowsCanBeSeen();
 
 /// Writes one line to standard error.
 void WriteErrorLine(std::u16string_view text);
+
+/// The address of a symbol in a shared module, which is searched for like the program's libraries.
+/// Null when module or symbol is missing; `reason` is then the system's. On Linux only.
+void* FindInModule(const char* module, const char* symbol, std::u16string& reason);
 
 }  // namespace cvlang

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/FolderListing.h"
+#include "platform/FileSystem.h"
 #include "platform/Paths.h"
 #include "text/Strings.h"
 #include "translation/StorePaths.h"

@@ -2,7 +2,6 @@
 
 #include "platform/Ansi.h"
 #include "platform/FileSystem.h"
-#include "platform/LetterCase.h"
 #include "platform/Paths.h"
 #include "platform/ProcessLock.h"
 #include "text/Lines.h"

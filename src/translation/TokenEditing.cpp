@@ -2,9 +2,8 @@
 
 #include <string>
 
+#include "platform/Ansi.h"
 #include "platform/FileSystem.h"
-#include "platform/FolderListing.h"
-#include "platform/LetterCase.h"
 #include "platform/Paths.h"
 #include "platform/ProcessLock.h"
 #include "text/Lines.h"

@@ -1,6 +1,6 @@
 #include "widgets/SelectionList.h"
 
-#include "platform/LetterCase.h"
+#include "platform/Ansi.h"
 #include "widgets/NativeControls.h"
 #include "widgets/Text.h"
 

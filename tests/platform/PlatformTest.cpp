@@ -6,8 +6,8 @@
 #include <thread>
 
 #include "platform/Ansi.h"
+#include "platform/FileCopy.h"
 #include "platform/FileSystem.h"
-#include "platform/FolderCopy.h"
 #include "platform/Paths.h"
 #include "platform/ProcessLock.h"
 #include "support/Files.h"

@@ -3,7 +3,8 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
+#include <clocale>
+#include <cwctype>
 
 namespace cvlang {
 namespace {
@@ -24,10 +25,7 @@ char ToByte(char16_t c) {
     if (c < 0x100 && !IsSpecial(c))
         return static_cast<char>(c);
     const auto found = std::find(kSpecial.begin(), kSpecial.end(), c);
-    if (found == kSpecial.end())
-        return '?';
-    return static_cast<char>(kFirstSpecial +
-                             static_cast<std::size_t>(std::distance(kSpecial.begin(), found)));
+    return found == kSpecial.end() ? '?' : static_cast<char>(0x80 + (found - kSpecial.begin()));
 }
 
 }  // namespace
@@ -46,6 +44,18 @@ std::string Utf16ToAnsi(std::u16string_view text) {
     std::string bytes(text.size(), '\0');
     std::transform(text.begin(), text.end(), bytes.begin(), ToByte);
     return bytes;
+}
+
+std::u16string ToUpper(std::u16string_view text) {
+    // C.UTF-8 has the table of letters and is in every Debian.
+    static const locale_t letters = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+    std::u16string upper(text);
+    std::transform(upper.begin(), upper.end(), upper.begin(), [](char16_t c) {
+        const auto letter = static_cast<wint_t>(c);
+        const auto capital = letters == nullptr ? towupper(letter) : towupper_l(letter, letters);
+        return capital < 0x10000 ? static_cast<char16_t>(capital) : c;
+    });
+    return upper;
 }
 
 }  // namespace cvlang

@@ -7,15 +7,12 @@
 #include <cerrno>
 
 #include "platform/posix/Descriptor.h"
-#include "platform/posix/DirectoryEntries.h"
 
 namespace cvlang {
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr mode_t kAllPermissions = 0777;
-constexpr mode_t kAllWritePermissions = 0222;
 constexpr mode_t kModeBits = 07777;
 
 /// The permissions that a file gets: a new one, and an existing one that is written over.
@@ -28,8 +25,7 @@ struct TargetMode {
 TargetMode ModeOfCopy(mode_t original, CopiedAttributes attributes) {
     const mode_t mode = original | (attributes == CopiedAttributes::Archive ? S_IWUSR : 0U);
     const bool readOnly = (mode & S_IWUSR) == 0;
-    return {mode & kAllPermissions, readOnly ? kAllWritePermissions : 0,
-            readOnly ? 0 : mode_t{S_IWUSR}};
+    return {mode & 0777, readOnly ? 0222U : 0U, readOnly ? 0U : mode_t{S_IWUSR}};
 }
 
 /// A page is writable at the end, after its copy was perhaps read-only.
@@ -165,22 +161,6 @@ bool WritePage(const CopiedFile& file, std::string_view bytes, const FileContent
 
 void ResetAttributes(const Folder& folder, const fs::path& name) {
     MakeWritable({folder, name});
-}
-
-struct TargetNames::Names {
-    DirectoryEntries entries;
-};
-
-TargetNames::TargetNames(const fs::path& folder, bool folderIsNew) {
-    if (!folderIsNew)
-        names_ = std::make_unique<Names>(Names{DirectoryEntries(folder)});
-}
-
-TargetNames::~TargetNames() = default;
-
-TargetName TargetNames::Find(const fs::path& name) const {
-    const auto existing = names_ ? names_->entries.Find(name.native()) : std::nullopt;
-    return {existing ? fs::path(*existing) : name, existing.has_value()};
 }
 
 }  // namespace cvlang

@@ -1,23 +1,26 @@
 #include "platform/FileSystem.h"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
-#include <system_error>
+#include <set>
+#include <unordered_map>
+#include <unordered_set>
 
+#include "platform/Ansi.h"
 #include "platform/Paths.h"
 #include "platform/posix/Descriptor.h"
+#include "text/AsciiCase.h"
+#include "text/Unicode.h"
 
 namespace cvlang {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::error_code LastError() {
-    return {errno, std::generic_category()};
-}
 
 bool IsFolder(const fs::path& path) {
     std::error_code ignored;
@@ -25,9 +28,8 @@ bool IsFolder(const fs::path& path) {
 }
 
 FileStatus StatusOfFailedOpen(const fs::path& folder) {
-    const bool noSuchName = errno == ENOENT;
-    return noSuchName && IsFolder(FindExisting(folder)) ? FileStatus::NotFound
-                                                        : FileStatus::OtherError;
+    return errno == ENOENT && IsFolder(FindExisting(folder)) ? FileStatus::NotFound
+                                                             : FileStatus::OtherError;
 }
 
 int OpenExisting(const Folder& folder, const fs::path& name) {
@@ -35,10 +37,6 @@ int OpenExisting(const Folder& folder, const fs::path& name) {
     if (exact >= 0 || errno != ENOENT)
         return exact;
     return Open(Place(FindExisting(folder.Path() / name)), O_RDONLY);
-}
-
-fs::path FolderOf(const fs::path& path) {
-    return path.has_parent_path() ? path.parent_path() : ".";
 }
 
 /// Opens a file to be replaced. A read-only file is refused, for root too.
@@ -56,12 +54,55 @@ bool Flush(const Descriptor& file) {
     return Uninterrupted([&] { return fsync(file.Number()); }) == 0 || errno == EINVAL;
 }
 
-bool Write(const Place& place, std::string_view bytes, Durability durability) {
-    Descriptor file(OpenForWriting(place));
-    if (!file.IsOpen())
-        return false;
-    const bool written = WriteAll(file, bytes) && (durability == Durability::Cached || Flush(file));
-    return file.Close() && written;
+/// Calls `use` with each entry and its open folder.
+template <typename Use>
+void ForEachEntry(const fs::path& folder, const Use& use) {
+    // Not directory_iterator, which ends the program when memory runs out.
+    const std::unique_ptr<DIR, int (*)(DIR*)> open(opendir(folder.c_str()), closedir);
+    while (const dirent* entry = open == nullptr ? nullptr : readdir(open.get()))
+        use(*entry, open.get());
+}
+
+/// Adds an entry to a listing; leaves out devices, pipes, "." and "..".
+void Add(const dirent& entry, DIR* folder, FolderListing& listing) {
+    const std::string_view name = entry.d_name;
+    if (name == "." || name == "..")
+        return;
+    unsigned char type = entry.d_type;
+    bool isLink = false;
+    if (type != DT_REG &&
+        type != DT_DIR) {  // a link, or a file system without types in its listings
+        struct stat status {};
+        if (fstatat(dirfd(folder), entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0)
+            return;
+        isLink = S_ISLNK(status.st_mode);
+        if (isLink && fstatat(dirfd(folder), entry.d_name, &status, 0) != 0)
+            listing.linkedFiles.emplace_back(name);
+        type = IFTODT(status.st_mode);
+    }
+    if (type == DT_DIR) {
+        (isLink ? listing.linkedFolders : listing.folders).emplace_back(name);
+    } else if (type == DT_REG) {
+        listing.files.emplace_back(name);
+        if (isLink)
+            listing.linkedFiles.emplace_back(name);
+    }
+}
+
+bool PrecedesInDirectoryWindow(const fs::path& a, const fs::path& b) {
+    const std::string& left = a.native();
+    const std::string& right = b.native();
+    const auto [inLeft, inRight] =
+        std::mismatch(left.begin(), left.end(), right.begin(), right.end(),
+                      [](char x, char y) { return LowerAscii(x) == LowerAscii(y); });
+    if (inLeft == left.end() || inRight == right.end())
+        return inLeft == left.end() && (inRight != right.end() || left < right);
+    return static_cast<unsigned char>(LowerAscii(*inLeft)) <
+           static_cast<unsigned char>(LowerAscii(*inRight));
+}
+
+std::u16string Capitals(const std::string& name) {
+    return ToUpper(Utf8ToUtf16(name));
 }
 
 }  // namespace
@@ -102,11 +143,16 @@ FileStatus ReadFile(const Folder& folder, const fs::path& name, FileContent& con
 }
 
 FileStatus ReadFile(const fs::path& path, FileContent& content) {
-    return ReadFile(Folder(FindExisting(FolderOf(path))), path.filename(), content);
+    const fs::path folder = path.has_parent_path() ? path.parent_path() : ".";
+    return ReadFile(Folder(FindExisting(folder)), path.filename(), content);
 }
 
 bool WriteFile(const fs::path& path, std::string_view bytes, Durability durability) {
-    return Write(Place(path), bytes, durability);
+    Descriptor file(OpenForWriting(Place(path)));
+    if (!file.IsOpen())
+        return false;
+    const bool written = WriteAll(file, bytes) && (durability == Durability::Cached || Flush(file));
+    return file.Close() && written;
 }
 
 std::error_code AppendToFile(const fs::path& path, std::string_view bytes) {
@@ -115,7 +161,7 @@ std::error_code AppendToFile(const fs::path& path, std::string_view bytes) {
     if (file.IsOpen() && fstat(file.Number(), &status) == 0 && IsReadOnly(status))
         return std::make_error_code(std::errc::permission_denied);
     if (!file.IsOpen() || !WriteAll(file, bytes) || !file.Close())
-        return LastError();
+        return {errno, std::generic_category()};
     return {};
 }
 
@@ -146,6 +192,62 @@ bool RenameFile(const fs::path& from, const fs::path& to) {
 
 bool CreateFolder(const fs::path& path) {
     return mkdir(path.c_str(), 0777) == 0;
+}
+
+FolderListing ListFolder(const fs::path& folder) {
+    FolderListing listing;
+    ForEachEntry(folder, [&listing](const dirent& entry, DIR* open) { Add(entry, open, listing); });
+    for (auto* list :
+         {&listing.files, &listing.linkedFiles, &listing.folders, &listing.linkedFolders})
+        std::sort(list->begin(), list->end(), PrecedesInDirectoryWindow);
+    return listing;
+}
+
+bool HasAlikeNames(const FolderListing& listing) {
+    const auto areAlike = [](const std::vector<fs::path>& names) {
+        std::unordered_set<std::u16string> capitals;
+        for (const fs::path& name : names)
+            capitals.insert(Capitals(name.native()));
+        return capitals.size() < names.size();
+    };
+    return areAlike(listing.files) || areAlike(listing.folders);
+}
+
+bool IsLinkedFolder(const fs::path& path) {
+    std::error_code ignored;
+    return fs::is_symlink(fs::symlink_status(path, ignored)) && fs::is_directory(path, ignored);
+}
+
+fs::path RealPath(const fs::path& path) {
+    std::error_code ignored;
+    return fs::canonical(path, ignored);
+}
+
+struct EntryNames::Names {
+    // Sorted, so that of two names that differ only in case the same one is always found.
+    std::set<std::string> exact;
+    std::unordered_map<std::u16string, std::string> byCapitals;
+};
+
+EntryNames::EntryNames(const fs::path& folder, bool folderIsNew) {
+    if (folderIsNew)
+        return;
+    names_ = std::make_unique<Names>();
+    ForEachEntry(folder, [this](const dirent& entry, DIR*) { names_->exact.insert(entry.d_name); });
+}
+
+EntryNames::~EntryNames() = default;
+
+EntryName EntryNames::Find(const fs::path& name) const {
+    if (names_ == nullptr || names_->exact.contains(name.native()))
+        return {name, names_ != nullptr};
+    if (names_->byCapitals.empty()) {
+        for (const std::string& existing : names_->exact)
+            names_->byCapitals.emplace(Capitals(existing), existing);
+    }
+    const auto found = names_->byCapitals.find(Capitals(name.native()));
+    const bool exists = found != names_->byCapitals.end();
+    return {exists ? fs::path(found->second) : name, exists};
 }
 
 }  // namespace cvlang

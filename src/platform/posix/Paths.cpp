@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "platform/posix/DirectoryEntries.h"
+#include "platform/FileSystem.h"
 #include "text/Unicode.h"
 
 namespace cvlang {
@@ -34,10 +34,9 @@ std::filesystem::path FindExisting(const std::filesystem::path& path) {
     bool missing = false;
     for (const std::filesystem::path& part : path) {
         if (!missing && !IsOnDisk(found / part)) {
-            const DirectoryEntries entries(found.empty() ? std::filesystem::path(".") : found);
-            const auto spelling = entries.Find(part.native());
-            missing = !spelling;
-            found /= spelling.value_or(part.native());
+            const EntryName entry = EntryNames(found.empty() ? "." : found).Find(part);
+            missing = !entry.exists;
+            found /= entry.name;
         } else {
             found /= part;
         }

@@ -1,5 +1,7 @@
 #include "platform/Process.h"
 
+#include <dlfcn.h>
+
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -12,11 +14,9 @@ std::u16string CommandLineText(int argc, const char* const* argv) {
     std::string line;
     for (int i = 1; i < argc; ++i) {
         const std::string_view argument = argv[i];
-        const bool quoted = argument.empty() || argument.find(' ') != std::string_view::npos;
-        line += i == 1 ? "" : " ";
-        line += quoted ? "\"" : "";
-        line += argument;
-        line += quoted ? "\"" : "";
+        const char* const quote =
+            argument.empty() || argument.find(' ') != argument.npos ? "\"" : "";
+        line.append(i == 1 ? "" : " ").append(quote).append(argument).append(quote);
     }
     return Utf8ToUtf16(line);
 }
@@ -39,6 +39,14 @@ bool WindowsCanBeSeen() {
 
 void WriteErrorLine(std::u16string_view text) {
     std::fprintf(stderr, "%s\n", Utf16ToUtf8(text).c_str());
+}
+
+void* FindInModule(const char* module, const char* symbol, std::u16string& reason) {
+    // Never closed: the toolkit cannot be unloaded.
+    void* const handle = dlopen(module, RTLD_NOW | RTLD_LOCAL);
+    void* const found = handle == nullptr ? nullptr : dlsym(handle, symbol);
+    reason = found == nullptr ? Utf8ToUtf16(dlerror()) : u"";
+    return found;
 }
 
 }  // namespace cvlang

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "platform/Ansi.h"
-#include "platform/LetterCase.h"
 #include "text/Unicode.h"
 
 namespace cvlang {

@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cstdio>
-#include <cstring>
 #include <ctime>
 
 #include "platform/Ansi.h"
@@ -21,9 +20,9 @@ LocalTime SystemClock() {
 }
 
 TimeZoneInformation SystemTimeZone() {
+    tzset();
     const std::time_t now = std::time(nullptr);
     std::tm local{};
-    tzset();
     localtime_r(&now, &local);
     constexpr long kSeconds = 60;
     const int bias = static_cast<int>(timezone / kSeconds);
@@ -50,16 +49,11 @@ std::u16string ComputerName() {
 }
 
 std::optional<Guid> NewGuid() {
-    std::array<std::uint8_t, 16> random{};
-    if (getrandom(random.data(), random.size(), 0) != static_cast<ssize_t>(random.size()))
-        return std::nullopt;
-    random[7] = static_cast<std::uint8_t>((random[7] & 0x0F) | 0x40);  // version 4: random
-    random[8] = static_cast<std::uint8_t>((random[8] & 0x3F) | 0x80);
     Guid guid{};
-    std::memcpy(&guid.first, random.data(), sizeof guid.first);
-    std::memcpy(&guid.second, random.data() + 4, sizeof guid.second);
-    std::memcpy(&guid.third, random.data() + 6, sizeof guid.third);
-    std::memcpy(guid.last.data(), random.data() + 8, guid.last.size());
+    if (getrandom(&guid, sizeof guid, 0) != sizeof guid)
+        return std::nullopt;
+    guid.third = static_cast<std::uint16_t>((guid.third & 0x0FFF) | 0x4000);  // version 4: random
+    guid.last[0] = static_cast<std::uint8_t>((guid.last[0] & 0x3F) | 0x80);
     return guid;
 }
 

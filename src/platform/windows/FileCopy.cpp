@@ -89,28 +89,4 @@ void ResetAttributes(const Folder& folder, const fs::path& name) {
         SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
-struct TargetNames::Names {
-    fs::path folder;
-};
-
-TargetNames::TargetNames(const fs::path& folder, bool folderIsNew) {
-    if (!folderIsNew)
-        names_ = std::make_unique<Names>(Names{folder});
-}
-
-TargetNames::~TargetNames() = default;
-
-TargetName TargetNames::Find(const fs::path& name) const {
-    WIN32_FIND_DATAW entry{};
-    const HANDLE search =
-        names_ == nullptr
-            ? INVALID_HANDLE_VALUE
-            : FindFirstFileExW(LongPath(names_->folder / name).c_str(), FindExInfoBasic, &entry,
-                               FindExSearchNameMatch, nullptr, 0);
-    if (search == INVALID_HANDLE_VALUE)
-        return {name, false};
-    FindClose(search);
-    return {entry.cFileName, true};
-}
-
 }  // namespace cvlang

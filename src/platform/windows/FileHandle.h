@@ -5,11 +5,13 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <string>
 #include <string_view>
 
-#include "platform/windows/LongPath.h"
-
 namespace cvlang {
+
+/// The path in the form that file functions accept at any length.
+std::wstring LongPath(const std::filesystem::path& path);
 
 inline constexpr DWORD kLargestTransfer = 1U << 30;
 

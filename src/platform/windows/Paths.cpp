@@ -4,8 +4,6 @@
 
 #include <algorithm>
 
-#include "platform/windows/LongPath.h"
-
 namespace cvlang {
 
 std::filesystem::path PathFromText(std::u16string_view text) {
@@ -28,20 +26,6 @@ std::filesystem::path ExecutableFolder() {
     const DWORD length = GetModuleFileNameW(nullptr, file.data(), static_cast<DWORD>(file.size()));
     file.resize(length);
     return std::filesystem::path(file).parent_path();
-}
-
-std::wstring LongPath(const std::filesystem::path& path) {
-    constexpr std::size_t kShort = 240;  // a folder's path must leave room for an 8.3 name
-    const std::wstring& text = path.native();
-    if (text.size() < kShort || text.rfind(LR"(\\?\)", 0) == 0)
-        return text;
-    // Not lexically_normal(), which removes one of the two separators before a server's name.
-    std::wstring full(32768, L'\0');
-    full.resize(
-        GetFullPathNameW(text.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
-    if (full.rfind(LR"(\\)", 0) == 0)
-        return LR"(\\?\UNC)" + full.substr(1);
-    return LR"(\\?\)" + full;
 }
 
 }  // namespace cvlang

@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-#include "platform/LetterCase.h"
+#include "platform/Ansi.h"
 #include "platform/Paths.h"
 
 namespace cvlang {

@@ -3,9 +3,8 @@
 #include <objbase.h>
 #include <windows.h>
 
-#include <algorithm>
 #include <array>
-#include <iterator>
+#include <bit>
 
 #include "platform/Ansi.h"
 
@@ -28,13 +27,10 @@ TimeZoneInformation SystemTimeZone() {
 }
 
 std::u16string FormatDateAndTime(const LocalTime& time) {
-    SYSTEMTIME system{};
-    system.wYear = static_cast<WORD>(time.year);
-    system.wMonth = static_cast<WORD>(time.month);
-    system.wDay = static_cast<WORD>(time.day);
-    system.wHour = static_cast<WORD>(time.hour);
-    system.wMinute = static_cast<WORD>(time.minute);
-    system.wSecond = static_cast<WORD>(time.second);
+    const auto word = [](int number) { return static_cast<WORD>(number); };
+    const SYSTEMTIME system{
+        word(time.year),   word(time.month),  0, word(time.day), word(time.hour),
+        word(time.minute), word(time.second), 0};
     std::array<wchar_t, 160> text{};
     const int size = static_cast<int>(text.size());
     GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, DATE_SHORTDATE, &system, nullptr, text.data(), size,
@@ -57,9 +53,7 @@ std::optional<Guid> NewGuid() {
     GUID made{};
     if (FAILED(CoCreateGuid(&made)))
         return std::nullopt;
-    Guid guid{static_cast<std::uint32_t>(made.Data1), made.Data2, made.Data3, {}};
-    std::copy(std::begin(made.Data4), std::end(made.Data4), guid.last.begin());
-    return guid;
+    return std::bit_cast<Guid>(made);
 }
 
 }  // namespace cvlang

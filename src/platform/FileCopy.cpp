@@ -1,10 +1,7 @@
-#include "platform/FolderCopy.h"
+#include "platform/FileCopy.h"
 
 #include <algorithm>
 #include <vector>
-
-#include "platform/FileSystem.h"
-#include "platform/FolderListing.h"
 
 namespace cvlang {
 namespace {
@@ -17,7 +14,7 @@ class FolderCopier {
     explicit FolderCopier(const FileCopier& copyFile) : copyFile_(copyFile) {}
 
     void CopyFiles(const FolderListing& listing, const fs::path& from, const fs::path& to,
-                   const TargetNames& targets, CopiedAttributes attributes) {
+                   const EntryNames& targets, CopiedAttributes attributes) {
         const Folder source(from);
         const Folder target(to);
         for (const fs::path& name : listing.files)
@@ -25,7 +22,7 @@ class FolderCopier {
     }
 
     void CopyFolders(const FolderListing& listing, const fs::path& from, const fs::path& to,
-                     const TargetNames& targets) {
+                     const EntryNames& targets) {
         for (const fs::path& name : listing.folders)
             CopySubfolder(from / name, to, targets.Find(name));
         for (const fs::path& name : listing.linkedFolders) {
@@ -46,7 +43,7 @@ class FolderCopier {
                            [&outer](const fs::path& inner) { return IsWithin(inner, outer); });
     }
 
-    void CopySubfolder(const fs::path& from, const fs::path& parent, const TargetName& target) {
+    void CopySubfolder(const fs::path& from, const fs::path& parent, const EntryName& target) {
         const fs::path to = parent / target.name;
         if (target.exists && (IsLinkedFolder(to) || IsSameFolder(from, to)))
             return;
@@ -54,7 +51,7 @@ class FolderCopier {
         // copy.
         const FolderListing listing = ListFolder(from);
         const bool isNew = CreateFolder(to);
-        const TargetNames targets(to, isNew);
+        const EntryNames targets(to, isNew);
         CopyFiles(listing, from, to, targets, CopiedAttributes::Kept);
         CopyFolders(listing, from, to, targets);
     }
@@ -71,10 +68,10 @@ void CopyFolder(const fs::path& from, const fs::path& to, bool toIsNew,
         return;
     FolderCopier copier(copyFile);
     const FolderListing listing = ListFolder(from);
-    copier.CopyFiles(listing, from, to, TargetNames(to, toIsNew), CopiedAttributes::Archive);
+    copier.CopyFiles(listing, from, to, EntryNames(to, toIsNew), CopiedAttributes::Archive);
     // Deliberate: listed again, so that a folder is not copied when its name differs only in case
     // from that of a file that was.
-    copier.CopyFolders(listing, from, to, TargetNames(to, false));
+    copier.CopyFolders(listing, from, to, EntryNames(to, false));
 }
 
 }  // namespace cvlang
