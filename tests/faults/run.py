@@ -35,10 +35,7 @@ def run(before, command, kind="", at=0, **options):
 
 
 def verify(holds, old, new, *where):
-    """Names the files that are not as they were, before they are cleaned up."""
-    for name in [] if holds else sorted(name for name in old.keys() | new.keys() if old.get(name) != new.get(name)):
-        print(name, "was", repr(old.get(name))[:300], "and is", repr(new.get(name))[:300], sep="\n  ")
-    assert holds, where
+    assert holds, (where, [(n, old.get(n), new.get(n)) for n in old.keys() | new.keys() if old.get(n) != new.get(n)])
 
 
 def every_fault(before, command, check):

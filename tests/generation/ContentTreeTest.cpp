@@ -43,12 +43,10 @@ TEST_F(ContentTree, PagesOfAllKindsAreTranslatedAtAnyDepthAndOtherFilesCopied) {
         {"m.xml", "\r\n", kMark, ""},
         {"in/deep/d.asp", kSource, kTranslated, "In/deep/D.asp"},
         {".asp", kSource, kTranslated, ""},
-        {"web.config", kSource, kSource, ""},
         {"x.asp.bak", kSource, kSource, ""},
         {"logo.gif", kSource, kSource, "LOGO.gif"},
         {"large", std::string(131072, 'x'), std::string(131072, 'x'), ""},
         {"larger", std::string(200001, 'x'), std::string(200001, 'x'), "Larger"},
-        {"in/aspx", kSource, kSource, "In/aspx"},
         {"in/x.jsp", kSource, kSource, "In/x.jsp"}};
     for (const auto& [name, source, result, existing] : files) {
         PutFile(sys / name, source);
@@ -73,12 +71,10 @@ TEST_F(ContentTree, StalePagesAreTranslatedTooWithTheMapFileOfTheNamesInUse) {
     fake.registry.numbers.clear();
     PutFile(lang / "EN" / "a.asp", "\n[CV_TXT-A]\n");
     PutFile(fr / "stale.asp", "[CV_TXT-A]");
-    PutFile(fr / "stale.txt", "[CV_TXT-A]");
     for (const std::string text : {"[CV_TXT-A]", "old"}) {  // without a map file, and with one
         Apply();
         EXPECT_EQ(FileBytes(fr / "a.asp"), kMark + text);
         EXPECT_EQ(FileBytes(fr / "stale.asp"), kMark + text);
-        EXPECT_EQ(FileBytes(fr / "stale.txt"), "[CV_TXT-A]");
         PutFile("WebMail-default.net-tokens.fr", Utf16Bytes(u"[CV_TXT-A]\told"));
     }
 }
@@ -105,25 +101,25 @@ TEST_F(ContentTree, WithoutAnAbbreviationTheRootItselfIsTheLanguagesFolder) {
 
 TEST_F(ContentTree, TheQuestionIsAskedOnlyOfAUserWhoHasPagesToLose) {
     PutFile(sys / "a.asp", "fresh");
-    const auto prepare = [this](int noPrompt, MessageAnswer answer) {
+    const std::tuple<const char*, int, MessageAnswer, bool, std::size_t> cases[] = {
+        {nullptr, 0, MessageAnswer::No, true, 0U},
+        {"own", 1, MessageAnswer::No, true, 0U},
+        {"own", 0, MessageAnswer::No, false, 1U},
+        {"own", 0, MessageAnswer::Yes, true, 2U}};
+    const Selection french{u"WebMail", u"default.net", u"French"};
+    for (const auto& [own, noPrompt, answer, goesOn, boxes] : cases) {
+        if (own != nullptr)
+            PutFile(fr / "a.asp", own);
         fake.messages.answer = answer;
-        const bool goesOn =
-            PrepareLanguageFolder(fake.program, {u"WebMail", u"default.net", u"French"}, noPrompt);
+        EXPECT_EQ(PrepareLanguageFolder(fake.program, french, noPrompt), goesOn);
         EXPECT_EQ(FileBytes(fr / "a.asp"), goesOn ? "fresh" : "own");
-        return goesOn;
-    };
-    EXPECT_TRUE(prepare(0, MessageAnswer::No));
-    PutFile(fr / "a.asp", "own");
-    EXPECT_TRUE(prepare(1, MessageAnswer::No));
-    EXPECT_TRUE(fake.messages.shown.empty());
-    PutFile(fr / "a.asp", "own");
-    EXPECT_FALSE(prepare(0, MessageAnswer::No));
+        EXPECT_EQ(fake.messages.shown.size(), boxes);
+    }
     EXPECT_EQ(fake.messages.shown.at(0).text,
               u"Web Content for this Language already exists, do you wish to overwrite it?");
-    EXPECT_TRUE(prepare(0, MessageAnswer::Yes));
+    fake.messages.answer = MessageAnswer::No;
     fake.program.unattended = true;
-    EXPECT_TRUE(prepare(0, MessageAnswer::No));
-    EXPECT_EQ(fake.messages.shown.size(), 2U);
+    EXPECT_TRUE(PrepareLanguageFolder(fake.program, french, 0));
 }
 
 TEST_F(ContentTree, DebugModeTracesEveryTokenWithItsCountOverAllRuns) {
@@ -151,7 +147,8 @@ TEST_F(ContentTree, LinksAreFollowedInTheReferenceFolderUnlessTheyLeadBackAndNev
     fs::create_directory_symlink(sys, fake.folder / "elsewhere" / "round", failed);
     fs::create_directory_symlink(outside, fr / "shared", failed);
     PutFile(sys / "copied.asp", "[CV_TXT-A]");
-    for (const char* name : {"copied.asp", "hard.asp"})
+    PutFile(sys / "copied.gif", "[CV_TXT-A]");
+    for (const char* name : {"copied.asp", "copied.gif", "hard.asp"})
         fs::create_hard_link(outside / "c.asp", fr / name, failed);
     fs::create_symlink(outside / "c.asp", fr / "soft.asp", failed);
     if (failed)
@@ -162,6 +159,7 @@ TEST_F(ContentTree, LinksAreFollowedInTheReferenceFolderUnlessTheyLeadBackAndNev
     EXPECT_FALSE(fs::exists(fr / "linked" / "round"));
     for (const char* name : {"copied.asp", "hard.asp", "soft.asp"})
         EXPECT_EQ(FileBytes(fr / name), kMark + "valeur") << name;
+    EXPECT_EQ(FileBytes(fr / "copied.gif"), "[CV_TXT-A]");
     EXPECT_EQ(FileBytes(outside / "c.asp"), "\r\n[CV_TXT-A]");
 }
 
@@ -190,6 +188,28 @@ TEST_F(ContentTree, OnlyAScriptFileIsScriptThroughoutAndAMissingPageIsLogged) {
     pages.TranslateFile(fake.folder / "none.asp", true);
     EXPECT_TRUE(fake.ErrorLog().ends_with(
         "\tError - could not find asp source: " + (fake.folder / "none.asp").string() + "\r\n"));
+}
+
+TEST(LanguageFolders, EveryApplicationAndBaseHasItsPlace) {
+    // Paths, for which all separators are alike.
+    const std::tuple<std::u16string, std::u16string, std::u16string, fs::path> cases[] = {
+        {u"src", u"WEBMAIL", u"Kesto.NET", u"src/WebMail/base/Kesto.NET/lang"},
+        {u"src", u"netwebmail", u"zephra", u"src/WebAdmin/base/zephra/lang"},
+        {u"", u"WebMail", u"default.net", u"/NETWebMail/default/lang"},
+        {u"", u"WebMail", u"ENTERPRISE.net", u"/NETWebMail/Enterprise/lang"},
+        {u"", u"webmail", u"zephra.net", u"/NETWebMail/Zephra/lang"},
+        {u"", u"webmail", u"Kesto.NET", u"/NETWebMail/Kesto/lang"},
+        {u"", u"WebAdmin", u"default.net", u"/NETWebAdmin/default/lang"},
+        {u"", u"WebAdmin", u"enterprise.net", u"/NETWebAdmin/enterprise/lang"},
+        {u"", u"anything", u"zephra.net", u"/NETWebAdmin/Zephra/lang"},
+        {u"", u"", u"kesto.net", u"/NETWebAdmin/Kesto/lang"},
+        {u"", u"WebMail", u"default", u""}};
+    FakeRegistry registry;
+    const Configuration config(registry);
+    for (const auto& [sourceRoot, application, base, root] : cases) {
+        registry.strings[u"Source Root"] = sourceRoot;
+        EXPECT_EQ(fs::path(GetLanguageRoot(config, {application, base})), root);
+    }
 }
 
 }  // namespace

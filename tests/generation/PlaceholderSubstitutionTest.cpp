@@ -10,11 +10,9 @@
 namespace cvlang {
 namespace {
 
-using Texts = TextArray;
-
 /// Nothing when the page is given up.
-std::optional<plain::Page> Substitute(std::string_view page, const Texts& tokens,
-                                      const Texts& values, ScriptMode mode) {
+std::optional<plain::Page> Substitute(std::string_view page, const TextArray& tokens,
+                                      const TextArray& values, ScriptMode mode) {
     const TokenIndex index(tokens, values);
     std::vector<std::int32_t> useCounts(tokens.size());
     PlaceholderSubstitution substitution(index, useCounts);
@@ -33,8 +31,8 @@ std::optional<plain::Page> Substitute(std::string_view page, const Texts& tokens
 
 TEST(PlaceholderSubstitution, MoreTokensThanCanBeNumberedEndAPageAtItsFirstPlaceholder) {
     for (const std::size_t most : {32767U, 32768U}) {
-        const Texts tokens(most + 1, u"[CV_TXT-A]");
-        const Texts values(most + 1);
+        const TextArray tokens(most + 1, u"[CV_TXT-A]");
+        const TextArray values(most + 1);
         EXPECT_EQ(Substitute("x[CV_TXT-A]", tokens, values, ScriptMode::Tracked).has_value(),
                   most == 32767);
         EXPECT_TRUE(Substitute("x[CV_TXT", tokens, values, ScriptMode::Tracked));
@@ -63,36 +61,17 @@ TEST(PlaceholderSubstitution, ATokenIsFoundThatIsThereOnlyBetweenTwoReplacements
 // Few pieces, so that they meet in every way: tokens within tokens, values that bring or complete
 // placeholders, brackets left open, empty and repeated tokens, tokens of any other form; tags on
 // both sides of where a look at a block of the page ends, and what only resembles a tag.
-const std::u16string kPieces[] = {u"[CV_TXT-A]",
-                                  u"[CV_TXT-B]",
-                                  u"[CV_TXT-AB]",
-                                  u"[CV_TXT-\u00E9]",
-                                  u"[CV_TXT-" + std::u16string(33, u'L') + u"1]",
-                                  u"[CV_TXT-" + std::u16string(33, u'L') + u"2]",
-                                  u"[CV_TXT-",
-                                  u"[CV_IMG-A]",
-                                  u"[",
-                                  u"]",
-                                  u"A]",
-                                  u"A",
-                                  u"B",
-                                  u"TXT-A",
-                                  u"CV_TXT-A",
-                                  u"\u00E9'",
-                                  u"\u3042",
-                                  u"\xD800\"",
-                                  std::u16string(35, u'x'),
-                                  u"\r\n",
-                                  u"\r\n",
-                                  u"\n",
-                                  u"\r",
-                                  u" ",
-                                  u"<ScRiPt x>",
-                                  u"</SCRIPT>",
-                                  u"<script",
-                                  u"/script>",
-                                  u"</script >",
-                                  std::u16string(240, u'<')};
+const std::u16string kLong = u"[CV_TXT-" + std::u16string(33, u'L');
+const std::u16string kFill(35, u'x');
+const std::u16string kTags(240, u'<');
+const std::u16string kPieces[] = {u"[CV_TXT-A]", u"[CV_TXT-B]", u"[CV_TXT-AB]", u"[CV_TXT-\u00E9]",
+                                  kLong + u"1]", kLong + u"2]", u"[CV_TXT-",    u"[CV_IMG-A]",
+                                  u"[",          u"]",          u"A]",          u"A",
+                                  u"B",          u"TXT-A",      u"CV_TXT-A",    u"\u00E9'",
+                                  u"\u3042",     u"\xD800\"",   kFill,          u"\r\n",
+                                  u"\r\n",       u"\n",         u"\r",          u" ",
+                                  u"<ScRiPt x>", u"</SCRIPT>",  u"<script",     u"/script>",
+                                  u"</script >", kTags};
 constexpr std::size_t kPlaceholders = 6;
 constexpr std::size_t kFirstWithoutOpenBracket = 9;
 constexpr std::size_t kFirstOfPagesAlone = 19;
@@ -108,8 +87,8 @@ TEST(PlaceholderSubstitution, ComesToTheSameAsThePlainProcedure) {
     for (int round = 0; round < 60000; ++round) {
         const bool tame = round % 3 == 0;
         std::deque<std::u16string> texts;
-        Texts tokens(1 + random() % 9);
-        Texts values(tokens.size());
+        TextArray tokens(1 + random() % 9);
+        TextArray values(tokens.size());
         for (std::size_t i = 1; i < tokens.size(); ++i) {
             tokens[i] = tame || random() % 2 == 0
                             ? kPieces[random() % kPlaceholders]

@@ -2,14 +2,15 @@
 // compared with it.
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "generation/PageScan.h"
 #include "platform/Ansi.h"
+#include "text/AsciiCase.h"
 #include "text/Unicode.h"
 #include "translation/TokenMapFile.h"
 
@@ -36,11 +37,9 @@ inline std::vector<std::string> SplitLines(std::string page) {
     ReplaceAll(page, "\r\n", "\n");
     ReplaceAll(page, "\r", "\n");
     std::vector<std::string> lines;
-    while (!page.empty()) {
-        const std::size_t end = std::min(page.find('\n'), page.size());
-        lines.push_back(page.substr(0, end));
-        page.erase(0, end + 1);
-    }
+    std::istringstream rest(page);
+    for (std::string line; std::getline(rest, line);)
+        lines.push_back(line);
     return lines;
 }
 
@@ -48,10 +47,8 @@ inline bool Holds(const std::string& text, const std::string& what) {
     return text.find(what) != text.npos;
 }
 
-inline bool HoldsTag(std::string line, const std::string& upperTag) {
-    for (char& c : line)
-        c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-    return Holds(line, upperTag);
+inline bool HoldsTag(const std::string& line, const std::string& lowerTag) {
+    return Holds(ToLowerCase(line), lowerTag);
 }
 
 inline Page Substitute(const std::string& page, const TextArray& tokens, const TextArray& values,
@@ -60,7 +57,7 @@ inline Page Substitute(const std::string& page, const TextArray& tokens, const T
     bool inScript = mode == ScriptMode::Always;
     for (std::string& line : SplitLines(page)) {
         if (mode == ScriptMode::Tracked)
-            inScript = !HoldsTag(line, "</SCRIPT>") && (inScript || HoldsTag(line, "<SCRIPT "));
+            inScript = !HoldsTag(line, "</script>") && (inScript || HoldsTag(line, "<script "));
         for (std::size_t i = 1; i < tokens.size() && Holds(line, "[CV_TXT-"); ++i) {
             const auto token = Utf16ToAnsiExactly(tokens[i]);
             if (!token || !Holds(line, *token))

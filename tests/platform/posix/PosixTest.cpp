@@ -1,16 +1,12 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <array>
-#include <cstdio>
-#include <cstring>
+#include <cstdlib>
 #include <ctime>
-#include <memory>
-#include <regex>
 #include <vector>
 
 #include "platform/Ansi.h"
-#include "platform/FileCopy.h"
+#include "platform/FileSystem.h"
 #include "platform/Paths.h"
 #include "platform/Process.h"
 #include "platform/Registry.h"
@@ -36,33 +32,28 @@ TEST(FindExisting, FindsAnEntryAsWindowsWould) {
         {"none/of/these", "none/of/these"}};
     for (const auto& [asked, found] : cases)
         EXPECT_EQ(FindExisting(folder / asked), folder / found) << asked;
-    EXPECT_EQ(FindExisting("NETWEBMAIL/zephra"), "NETWebMail/Zephra");
     FileContent content;
     EXPECT_EQ(ReadFile("NETWEBMAIL/zephra/PAGE.asp", content), FileStatus::Okay);
 }
 
-TEST(FileCopy, ReplacingAFileLeavesItsOtherNameUnchanged) {
-    const TemporaryFolder folder;
-    PutFile(folder / "from" / "a", "fresh");
-    PutFile(folder / "outside", "untouched");
-    std::filesystem::create_directory(folder / "to");
-    std::filesystem::create_hard_link(folder / "outside", folder / "to" / "a");
-    EXPECT_TRUE(CopyOneFile({Folder(folder / "from"),
-                             "a",
-                             Folder(folder / "to"),
-                             {"a", true},
-                             CopiedAttributes::Kept}));
-    EXPECT_EQ(FileBytes(folder / "to" / "a"), "fresh");
-    EXPECT_EQ(FileBytes(folder / "outside"), "untouched");
-}
-
-TEST(FileSystem, OpeningAPipeDoesNotWaitAndPipesAndLargeFilesAreNoSettings) {
+TEST(FileSystem, OpeningAPipeDoesNotWaitAndAReadOnlyFileIsUnchangedForRootToo) {
     const TemporaryFolder folder;
     ASSERT_EQ(mkfifo("pipe", 0666), 0);
     FileContent content;
     EXPECT_EQ(ReadFile("pipe", content), FileStatus::OtherError);
-    EXPECT_FALSE(WriteFile("pipe", "x"));
-    EXPECT_TRUE(AppendToFile("pipe", "x"));
+    PutFile("locked", "mine");
+    SetReadOnly("locked", true);
+    for (const char* file : {"pipe", "locked"}) {
+        EXPECT_FALSE(WriteFile(file, "x")) << file;
+        EXPECT_TRUE(AppendToFile(file, "x")) << file;
+    }
+    EXPECT_FALSE(RemoveFile("locked"));
+    EXPECT_EQ(FileBytes("locked"), "mine");
+}
+
+TEST(SystemRegistry, ReadsTheNamedFileUnlessItIsAPipeOrLarge) {
+    const TemporaryFolder folder;
+    ASSERT_EQ(mkfifo("pipe", 0666), 0);
     PutFile("large", "[HKLM\\Key]\n\"Value\"=\"text\"\n");
     for (const auto& [file, text] : {std::pair{"LARGE", u"text"}, {"pipe", u""}, {"large", u""}}) {
         setenv("CORVANE_REGISTRY", file, 1);
@@ -71,26 +62,14 @@ TEST(FileSystem, OpeningAPipeDoesNotWaitAndPipesAndLargeFilesAreNoSettings) {
     }
 }
 
-TEST(FileSystem, AReadOnlyFileIsUnchangedForRootToo) {
-    const TemporaryFolder folder;
-    PutFile("f", "mine");
-    SetReadOnly("f", true);
-    EXPECT_FALSE(WriteFile("f", "x"));
-    EXPECT_TRUE(AppendToFile("f", "x"));
-    EXPECT_FALSE(RemoveFile("f"));
-    EXPECT_EQ(FileBytes("f"), "mine");
-}
-
 /// What a command of the system writes.
 std::string OutputOf(const std::string& command) {
-    const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
-    std::array<char, 200> line{};
-    return std::fgets(line.data(), line.size(), pipe.get()) == nullptr
-               ? ""
-               : std::string(line.data(), std::strlen(line.data()) - 1);
+    EXPECT_EQ(std::system((command + " | tr -d '\\n' >out").c_str()), 0);
+    return FileBytes("out");
 }
 
 TEST(SystemInformation, IsThatOfTheSystem) {
+    const TemporaryFolder folder;
     const std::string before = OutputOf("date '+%F %T'");
     const std::string now = Utf16ToUtf8(FormatDateAndTime(SystemClock()));
     EXPECT_GE(now, before);
@@ -120,11 +99,7 @@ TEST(TimeZone, CountsMinutesWestAndSummerTime) {
 
 TEST(CommandLineText, IsRebuiltFromTheArguments) {
     const std::pair<std::vector<const char*>, std::u16string> cases[] = {
-        {{"program"}, u""},
-        {{"program", "WebMail", "x", "Brazilian Portuguese"},
-         u"WebMail x \"Brazilian Portuguese\""},
-        {{"program", "WebMail", "", "\xC3\xA9"}, u"WebMail \"\" \u00E9"},
-        {{"program", ""}, u"\"\""}};
+        {{"program"}, u""}, {{"program", "a b", "", "\xC3\xA9"}, u"\"a b\" \"\" \u00E9"}};
     for (const auto& [arguments, text] : cases)
         EXPECT_EQ(CommandLineText(static_cast<int>(arguments.size()), arguments.data()), text);
 }
@@ -140,19 +115,13 @@ TEST(RegistryExport, IsReadAsTheImporterOfWindowsReadsIt) {
         cases[] = {
             {R"("Value"="C:\\Program Files" ; comment)", u"C:\\Program Files", {}},
             {R"("Value"="say \"hello\";\n")", u"say \"hello\";\n", {}},
-            {R"(  "VALUE" = ""  )", u"", {}},
             {"\"Value\"= hex(2):41,00,\\ ;\n;\n\n  42, 00,00,00 ;", u"AB", {}},
             {"\"Value\"=hex(1):41,00,42,\\\n00", u"AB", {}},
-            {"\"Value\"=hex(2):41,00,\\\n", {}, {}},
             {"\"Value\"=hex(2):41,00,\\\n\"Value\"=\"continues nothing\"", {}, {}},
             {R"("Value"=hex(2):41,00,42)", {}, {}},
-            {R"("Value"=hex(2):41,00 x)", {}, {}},
             {R"("Value"=hex:41,00,00,00)", {}, {}},
-            {R"("Value"=hex(2:41,00)", {}, {}},
             {R"("Value"="ends in backslash\)", {}, {}},
-            {R"("Value"="more" x)", {}, {}},
             {"\"Value\"=\"first\"\n\"Value\"=\"second\"", u"second", {}},
-            {"\"Value\"=\"first\"\n\"Value\"=hex(2):no", u"first", {}},
             {"\"Value\"=\"first\"\n\"Value\"=-;", {}, {}},
             {"\"Value\"=\"first\"\n[-HKLM\\SOFTWARE\\corvane]", {}, {}},
             {"\"Value\"=\"first\"\n[HKEY_CURRENT_USER\\X]\n\"Value\"=\"other\"", u"first", {}},
@@ -160,15 +129,11 @@ TEST(RegistryExport, IsReadAsTheImporterOfWindowsReadsIt) {
             {R"("Value"=dword: 00000002;)", {}, 2},
             {R"("Value"=dword:ffffffff)", {}, -1},
             {R"("Value"=dword:000000002)", {}, {}},
-            {R"("Value"=hex(4):02,01,00,80)", {}, -0x7FFFFEFE},
-            {R"("Value"=hex(4):02,00)", {}, {}}};
+            {R"("Value"=hex(4):02,01,00,80)", {}, -0x7FFFFEFE}};
     for (const auto& [lines, text, number] : cases) {
-        const std::string file = std::string(kKey) + lines + "\n";
-        for (const RegistryValue& value :
-             {Value(file), Value(std::regex_replace(file, std::regex("\n"), "\r\n"))}) {
-            EXPECT_EQ(value.text, text) << lines;
-            EXPECT_EQ(value.number, number) << lines;
-        }
+        const RegistryValue value = Value(std::string(kKey) + lines + "\n");
+        EXPECT_EQ(value.text, text) << lines;
+        EXPECT_EQ(value.number, number) << lines;
     }
 }
 
