@@ -7,23 +7,18 @@
 #include "platform/HttpRequest.h"
 
 namespace cvlang {
-namespace {
-
-constexpr std::chrono::milliseconds kStepInterval(200);
-
-}  // namespace
 
 std::string SendHttpRequest(std::u16string_view sServer, std::u16string_view sPath,
                             std::u16string_view sPostData, std::u16string_view sVerb,
                             std::uint16_t port, const std::function<void()>& stillWaiting) {
-    HttpRequest request;
-    request.host = Utf16ToAnsi(sServer);
-    request.port = port;
-    request.target = Utf16ToAnsi(sPath);
-    request.verb = Utf16ToAnsi(sVerb);
-    request.body = Utf16ToAnsi(sPostData);
-    if (sVerb == u"POST")
-        request.header = "Content-Type: application/x-www-form-urlencoded";
+    constexpr std::chrono::milliseconds kStepInterval(200);
+    const HttpRequest request{
+        .host = Utf16ToAnsi(sServer),
+        .port = port,
+        .target = Utf16ToAnsi(sPath),
+        .verb = Utf16ToAnsi(sVerb),
+        .body = Utf16ToAnsi(sPostData),
+        .header = sVerb == u"POST" ? "Content-Type: application/x-www-form-urlencoded" : ""};
     // In a thread of its own, as the systems' clients call nobody back while they wait.
     auto body = std::async(std::launch::async, SendRequest, std::cref(request));
     while (body.wait_for(kStepInterval) == std::future_status::timeout)

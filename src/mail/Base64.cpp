@@ -4,7 +4,6 @@
 #include <array>
 #include <cstdint>
 #include <cstring>
-#include <utility>
 
 #include "mail/MailError.h"
 #include "platform/FileSystem.h"
@@ -57,37 +56,6 @@ char* EncodeLine(std::string_view bytes, char* to) {
     return to;
 }
 
-/// The values of a text's characters, four of them in one number, as bytes.
-class Decoder {
-  public:
-    explicit Decoder(std::size_t textSize) { bytes_.reserve(textSize / 4 * 3 + 3); }
-
-    void Add(char character) {
-        bits_ = bits_ << 6 | kValues[static_cast<unsigned char>(character)];
-        if (++count_ == 4)
-            Write(3);
-    }
-
-    std::string Finish() {
-        const int missing = 4 - count_;
-        bits_ <<= 6 * missing;
-        Write(std::max(count_ - 1, 0));
-        return std::move(bytes_);
-    }
-
-  private:
-    void Write(int byteCount) {
-        for (int i = 0; i < byteCount; ++i)
-            bytes_ += static_cast<char>(bits_ >> (16 - 8 * i) & 0xFF);
-        bits_ = 0;
-        count_ = 0;
-    }
-
-    std::string bytes_;
-    std::uint32_t bits_ = 0;
-    int count_ = 0;
-};
-
 }  // namespace
 
 std::string Base64::EncodeByteArr(std::string_view bytInput) {
@@ -115,10 +83,6 @@ std::size_t Base64::EncodedSize(std::size_t byteCount) {
     return characters + lineBreaks * kCrLf.size();
 }
 
-std::string Base64::EncodeString(std::string_view text) {
-    return EncodeByteArr(text);
-}
-
 std::string Base64::EncodeFile(const std::filesystem::path& file) {
     FileContent content;
     [[maybe_unused]] const FileStatus ignored = ReadFile(file, content);
@@ -126,18 +90,23 @@ std::string Base64::EncodeFile(const std::filesystem::path& file) {
 }
 
 std::string Base64::DecodeToByteArr(std::string_view text) {
-    Decoder decoder(text.size());
+    std::string bytes;
+    bytes.reserve(text.size() / 4 * 3 + 3);
+    std::uint32_t bits = 0;  // the lowest ones are still to be written
+    int bitCount = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text.compare(i, kCrLf.size(), kCrLf) == 0)
+        if (text.compare(i, kCrLf.size(), kCrLf) == 0) {
             ++i;
-        else if (text[i] != '=')
-            decoder.Add(text[i]);
+        } else if (text[i] != '=') {
+            bits = bits << 6 | kValues[static_cast<unsigned char>(text[i])];
+            bitCount += 6;
+        }
+        if (bitCount >= 8) {
+            bitCount -= 8;
+            bytes += static_cast<char>(bits >> bitCount & 0xFF);
+        }
     }
-    return decoder.Finish();
-}
-
-std::string Base64::DecodeToString(std::string_view text) {
-    return DecodeToByteArr(text);
+    return bytes;
 }
 
 bool Base64::DecodeToFile(std::string_view text, const std::filesystem::path& file) {

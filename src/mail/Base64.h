@@ -1,4 +1,5 @@
-// Base64 as the mail transport writes and reads it. Text and bytes are ANSI throughout.
+// Base64 as the mail transport writes and reads it. Text and bytes are ANSI throughout, so the
+// operations on bytes serve strings, too.
 #pragma once
 
 #include <cstddef>
@@ -19,13 +20,11 @@ class Base64 {
     /// How long the text of so many bytes is, line breaks included.
     static std::size_t EncodedSize(std::size_t byteCount);
 
-    static std::string EncodeString(std::string_view text);
     /// The text of a whole file; empty when it cannot be read.
     static std::string EncodeFile(const std::filesystem::path& file);
 
     /// CR LF and "=" are skipped; other characters outside the alphabet count as zero bits.
     static std::string DecodeToByteArr(std::string_view text);
-    static std::string DecodeToString(std::string_view text);
     /// Raises an error when the file exists already. False when it cannot be written.
     static bool DecodeToFile(std::string_view text, const std::filesystem::path& file);
 };

@@ -45,15 +45,9 @@ std::string ZoneText(int offset) {
 }
 
 int Bias(const TimeZoneInformation& zone) {
-    switch (zone.time) {
-        case ZoneTime::Standard:
-            return zone.bias + zone.standardBias;
-        case ZoneTime::Daylight:
-            return zone.bias + zone.daylightBias;
-        case ZoneTime::Unknown:
-            break;
-    }
-    return zone.bias;
+    if (zone.time == ZoneTime::Standard)
+        return zone.bias + zone.standardBias;
+    return zone.bias + (zone.time == ZoneTime::Daylight ? zone.daylightBias : 0);
 }
 
 }  // namespace

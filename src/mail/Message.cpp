@@ -39,24 +39,12 @@ void Message::AddHeader(std::string_view sHeader) {
         extraHeaders_.append(sHeader).append(kCrLf);
 }
 
-void Message::ClearHeaders() {
-    extraHeaders_.clear();
-}
-
 void Message::AddAttachment(const std::string& Filename, const std::string& name) {
     if (TrimBlanks(Filename).empty()) {
         ErrorString = "You must specify a filename for the attachment.";
         throw MailError(MailErrorNumber::Incomplete, "AddAttachment", ErrorString);
     }
     AddFile(PathFromAnsi(Filename), name.empty() ? NameInPath(Filename) : name);
-}
-
-void Message::AddFile(std::filesystem::path file, std::string name) {
-    attachments_.push_back({std::move(file), std::move(name)});
-}
-
-void Message::ClearAttachments() {
-    attachments_.clear();
 }
 
 void Message::SetDefault() {
@@ -91,7 +79,6 @@ bool Message::Send() {
     if (MailTo.empty())
         throw MailError(MailErrorNumber::Incomplete, "SendMessage", "No To: address given");
     std::string text = ComposeText();
-    const SocketsSession sockets;
     SmtpDialogue dialogue(*this, GetHeloDomainName(), environment_,
                           [this](std::string_view line) { LogActivity(line); });
     return dialogue.Deliver(MergedAddresses({MailTo, MailCC, MailBCC}), std::move(text));

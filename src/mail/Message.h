@@ -24,13 +24,15 @@ class Message : public MessageFields {
 
     /// Adds a line to the header block; an empty one is passed over.
     void AddHeader(std::string_view sHeader);
-    void ClearHeaders();
+    void ClearHeaders() { extraHeaders_.clear(); }
 
     /// Without a name the attachment is called as its file. Raises an error when no file is named.
     void AddAttachment(const std::string& Filename, const std::string& Attachmentname);
     /// Adds an attachment by its path, which may hold characters that the code page lacks.
-    void AddFile(std::filesystem::path file, std::string name);
-    void ClearAttachments();
+    void AddFile(std::filesystem::path file, std::string name) {
+        attachments_.push_back({std::move(file), std::move(name)});
+    }
+    void ClearAttachments() { attachments_.clear(); }
 
     /// Empties everything but the three flags, and sets the port to the usual one.
     void SetDefault();

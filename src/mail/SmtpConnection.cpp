@@ -18,12 +18,9 @@ SocketHandle Abandon(SocketHandle socket) {
     return kNoSocket;
 }
 
-long MinuteOf(const LocalTime& time) {
-    constexpr long kHours = 24;
-    constexpr long kMinutes = 60;
+std::chrono::sys_time<std::chrono::minutes> MinuteOf(const LocalTime& time) {
     const std::chrono::sys_days day = std::chrono::year(time.year) / time.month / time.day;
-    const auto days = static_cast<long>(day.time_since_epoch().count());
-    return (days * kHours + time.hour) * kMinutes + time.minute;
+    return day + std::chrono::hours(time.hour) + std::chrono::minutes(time.minute);
 }
 
 /// Receives what has come, and nothing when nothing has.
@@ -49,48 +46,32 @@ std::ptrdiff_t SendAll(SocketHandle socket, std::string_view bytes) {
 
 }  // namespace
 
-bool IsIPAddress(const std::string& host) {
-    return !host.empty() && AddressFromNumbers(host).has_value();
-}
-
-std::string ResolveHostAddress(const std::string& host) {
-    if (IsIPAddress(host))
-        return host;
-    std::string text;
-    for (const char byte : FirstAddressOfHost(host)) {
-        text += text.empty() ? "" : ".";
-        text += std::to_string(static_cast<unsigned char>(byte));
-    }
-    return text;
-}
-
 SocketHandle ConnectToHost(const std::string& host, int port,
                            const std::function<void()>& processPendingEvents) {
-    const std::string numbers = ResolveHostAddress(host);
-    if (!IsIPAddress(numbers))
-        return kNoSocket;
-    const SocketHandle socket = OpenTcpSocket();
+    const std::string address = ResolveHostAddress(host);
+    const SocketHandle socket = address.empty() ? kNoSocket : OpenTcpSocket();
     if (socket == kNoSocket)
         return kNoSocket;
     processPendingEvents();
-    if (ConnectSocket(socket, *AddressFromNumbers(numbers), static_cast<std::uint16_t>(port)) != 0)
+    if (ConnectSocket(socket, address, static_cast<std::uint16_t>(port)) != 0)
         return Abandon(socket);
     return socket;
 }
 
-SocketsSession::SocketsSession() {
+Connection::Connection() {
     if (StartSockets() != 0)
         StopSockets();
 }
 
-SocketsSession::~SocketsSession() {
+Connection::~Connection() {
+    Close();
     StopSockets();
 }
 
 void Connection::Close() {
-    if (IsOpen())
-        CloseConnection(socket_);
-    socket_ = kNoSocket;
+    if (socket != kNoSocket)
+        CloseConnection(socket);
+    socket = kNoSocket;
 }
 
 ReplyScanner::ReplyScanner(std::string_view replyCodeSet) : codes_(SplitList(replyCodeSet, ',')) {
@@ -112,7 +93,7 @@ std::string_view ReplyScanner::Add(std::string_view piece) {
 }
 
 long MinuteBoundariesBetween(const LocalTime& start, const LocalTime& now) {
-    return MinuteOf(now) - MinuteOf(start);
+    return static_cast<long>((MinuteOf(now) - MinuteOf(start)).count());
 }
 
 std::string WaitForReply(SocketHandle socket, std::string_view replyCodeSet, const Clock& clock,

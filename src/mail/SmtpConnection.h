@@ -11,38 +11,20 @@
 
 namespace cvlang {
 
-bool IsIPAddress(const std::string& host);
-/// The host's address in numbers and dots; empty when there is no such host.
-std::string ResolveHostAddress(const std::string& host);
-
 /// The connected socket, or kNoSocket; LastSocketError then has the reason.
 SocketHandle ConnectToHost(const std::string& host, int port,
                            const std::function<void()>& processPendingEvents);
 
-/// The sockets library for the time of one delivery. When starting it fails, connecting fails.
-class SocketsSession {
-  public:
-    SocketsSession();
-    ~SocketsSession();
-    SocketsSession(const SocketsSession&) = delete;
-    SocketsSession& operator=(const SocketsSession&) = delete;
-};
-
-/// A connection, closed at the latest by its destructor.
-class Connection {
-  public:
-    Connection() = default;
+/// The sockets library for the time of one delivery, and its connection, which is closed at the
+/// latest by the destructor. When starting the library fails, connecting fails.
+struct Connection {
+    Connection();
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
-    ~Connection() { Close(); }
-
-    void Open(SocketHandle socket) { socket_ = socket; }
-    bool IsOpen() const { return socket_ != kNoSocket; }
-    SocketHandle Socket() const { return socket_; }
+    ~Connection();
     void Close();
 
-  private:
-    SocketHandle socket_ = kNoSocket;
+    SocketHandle socket = kNoSocket;
 };
 
 /// Looks for the codes of a set in a reply that comes in pieces. It keeps no more of the reply than

@@ -75,9 +75,9 @@ bool SmtpDialogue::Deliver(const std::vector<std::string>& recipients, std::stri
 bool SmtpDialogue::SMTPConnect() {
     if (message_.ServerPort == 0)
         message_.ServerPort = kSmtpPort;
-    connection_.Open(
-        ConnectToHost(server_, message_.ServerPort, environment_.processPendingEvents));
-    if (!connection_.IsOpen())
+    connection_.socket =
+        ConnectToHost(server_, message_.ServerPort, environment_.processPendingEvents);
+    if (connection_.socket == kNoSocket)
         throw MailError(MailErrorNumber::Connect, "SMTPConnect",
                         "Failed to connect to mail server: Windows Sockets error " +
                             std::to_string(LastSocketError()));
@@ -97,11 +97,11 @@ void SmtpDialogue::Authenticate() {
     if (message_.AuthenticationMode != kAuthLogin || message_.Username.empty() ||
         message_.Password.empty())
         return;
-    std::string code = Command("AUTH LOGIN " + Base64::EncodeString(message_.Username),
+    std::string code = Command("AUTH LOGIN " + Base64::EncodeByteArr(message_.Username),
                                replies::kAuth, "AUTH LOGIN");
     // Deliberate: any code asks for the password, one of refusal too.
     if (std::atoi(code.c_str()) != 0)
-        code = Command(Base64::EncodeString(message_.Password), replies::kAuth, "password");
+        code = Command(Base64::EncodeByteArr(message_.Password), replies::kAuth, "password");
     if (replies::IsIn(replies::kAuthRefused, code))
         throw MailError(MailErrorNumber::Refused, "AUTH",
                         "Could not Authenticate against remote host; Server returned: " + code);
@@ -162,7 +162,7 @@ std::string SmtpDialogue::Command(std::string line, std::string_view replyCodeSe
 std::string SmtpDialogue::Exchange(std::string_view command, std::string_view replyCodeSet,
                                    const std::string& loggedAs) {
     try {
-        return SMTPProcessClientCommand(connection_.Socket(), command, replyCodeSet,
+        return SMTPProcessClientCommand(connection_.socket, command, replyCodeSet,
                                         environment_.clock, message_.ErrorString);
     } catch (const ReceiveError& error) {
         log_("Windows Sockets error processing " + loggedAs +

@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -22,20 +21,17 @@ int StopSockets();
 int LastSocketError();
 void SetLastSocketError(int number);
 
-/// An address as it goes over the wire.
-using AddressNumber = std::uint32_t;
-
-/// The address of a text in numbers and dots; nothing when it is none.
-std::optional<AddressNumber> AddressFromNumbers(const std::string& text);
+/// Whether a text is an IPv4 address in numbers and dots.
+bool IsIPAddress(const std::string& host);
 /// Whether a text is an IPv6 address, without brackets.
 bool IsIPv6Address(const std::string& text);
-/// The bytes of a host's first address, looked up by name; empty when it has none.
-std::string FirstAddressOfHost(const std::string& name);
+/// The host's first address in numbers and dots; empty when there is no such host.
+std::string ResolveHostAddress(const std::string& host);
 
 SocketHandle OpenTcpSocket();
-/// Waits until the connection is open. 0 on success. From then on sending fails when the peer takes
-/// nothing for a minute; one that is slow keeps its time.
-int ConnectSocket(SocketHandle socket, AddressNumber address, std::uint16_t port);
+/// Waits until the connection to an address in numbers and dots is open. 0 on success. From then on
+/// sending fails when the peer takes nothing for a minute; one that is slow keeps its time.
+int ConnectSocket(SocketHandle socket, const std::string& address, std::uint16_t port);
 int CloseConnection(SocketHandle socket);
 
 /// Sends some or all of the bytes and returns how many; negative on failure. A peer that is gone is

@@ -10,14 +10,10 @@
 namespace cvlang {
 namespace {
 
-bool IsMailAddress(std::u16string_view text) {
-    const std::size_t at = text.find(u'@');
-    return at != text.npos && at + 1 < text.size();
-}
-
 std::optional<AddressFault> ValidateAddress(AddressBox box, std::u16string_view address,
                                             std::u16string_view party, std::u16string_view field) {
-    if (IsMailAddress(address))
+    const std::size_t at = address.find(u'@');
+    if (at != address.npos && at + 1 < address.size())
         return {};
     std::u16string text;
     if (!address.empty())

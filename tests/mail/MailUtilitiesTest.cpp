@@ -66,7 +66,7 @@ TEST(Base64, EveryLengthAndEveryByteGoesThereAndBackInLines) {
     EXPECT_EQ(Base64::EncodeByteArr(Base64::DecodeToByteArr(alphabet)), alphabet);
     std::string bytes;
     for (std::size_t size = 0; size < 400; ++size, bytes += static_cast<char>(size * 7)) {
-        const std::string text = Base64::EncodeString(bytes);
+        const std::string text = Base64::EncodeByteArr(bytes);
         ASSERT_EQ(Base64::DecodeToByteArr(text), bytes);
         ASSERT_EQ(text.size(), Base64::EncodedSize(size));
     }
@@ -75,10 +75,10 @@ TEST(Base64, EveryLengthAndEveryByteGoesThereAndBackInLines) {
     const std::pair<std::size_t, std::string> cases[] = {
         {57, line}, {58, line + "\r\nAA=="}, {114, line + "\r\n" + line + "\r\n"}};
     for (const auto& [size, text] : cases)
-        EXPECT_EQ(Base64::EncodeString(std::string(size, '\0')), text);
+        EXPECT_EQ(Base64::EncodeByteArr(std::string(size, '\0')), text);
     // Line breaks and padding are skipped, and foreign characters are zero bits.
-    EXPECT_EQ(Base64::DecodeToString("Z=m\r\n9v\r\nYg=="), "foob");
-    EXPECT_EQ(Base64::DecodeToString("\nm\xE9v"), Base64::DecodeToString("AmAv"));
+    EXPECT_EQ(Base64::DecodeToByteArr("Z=m\r\n9v\r\nYg=="), "foob");
+    EXPECT_EQ(Base64::DecodeToByteArr("\nm\xE9v"), Base64::DecodeToByteArr("AmAv"));
 }
 
 TEST(Base64, FilesAreReadAndNeverOverwritten) {

@@ -1,18 +1,10 @@
 #include "platform/Sockets.h"
 
 #include "NativeSockets.h"
+#include "platform/posix/Descriptor.h"
 
 namespace cvlang {
 namespace {
-
-template <typename Call>
-ssize_t Uninterrupted(Call call) {
-    ssize_t result = 0;
-    do {
-        result = call();
-    } while (result < 0 && errno == EINTR);
-    return result;
-}
 
 /// A look at the connection that takes nothing from it.
 std::ptrdiff_t ReceiveNothing(int socket) {

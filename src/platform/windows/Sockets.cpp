@@ -17,20 +17,15 @@ int Limited(std::size_t size) {
     return static_cast<int>(std::min(size, kMost));
 }
 
-bool HasSomethingToTell(SOCKET socket) {
-    fd_set readable;
-    FD_ZERO(&readable);
-    readable.fd_array[readable.fd_count++] = socket;
-    timeval atOnce{0, 0};
-    return select(0, &readable, nullptr, nullptr, &atOnce) != 0;
-}
-
-/// A look at the connection that takes nothing from it.
+/// A look at the connection that takes nothing from it and does not wait.
 std::ptrdiff_t ReceiveNothing(SOCKET socket) {
+    fd_set readable{1, {socket}};
+    const timeval atOnce{0, 0};
     char byte = 0;
-    if (!HasSomethingToTell(socket))
-        return 0;
-    return recv(socket, &byte, 1, MSG_PEEK) < 0 ? -1 : 0;
+    return select(0, &readable, nullptr, nullptr, &atOnce) != 0 &&
+                   recv(socket, &byte, 1, MSG_PEEK) < 0
+               ? -1
+               : 0;
 }
 
 }  // namespace
