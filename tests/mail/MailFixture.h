@@ -9,14 +9,16 @@ namespace cvlang {
 struct MailFixture {
     explicit MailFixture(Clock clock = FakeProgram::FixedClock)
         : message(fake.config, fake.logs,
-                  {std::move(clock),
-                   [this] {
-                       return std::optional(Guid{++guids, 0xAA, 0xBB, {}});
-                   },
-                   [] {
-                       return TimeZoneInformation{-60, 0, 0, ZoneTime::Unknown};
-                   },
-                   [this] { ++eventsProcessed; }}) {
+                  {.clock = std::move(clock),
+                   .newGuid =
+                       [this] {
+                           return Guid{++guids, 0xAA, 0xBB, {}};
+                       },
+                   .timeZone =
+                       [] {
+                           return TimeZoneInformation{-60, 0, 0, ZoneTime::Unknown};
+                       },
+                   .processPendingEvents = [this] { ++eventsProcessed; }}) {
         PutFile(fake.folder / "any", "");
         message.MailFrom = "f@here";
         message.MailTo = "t@x";

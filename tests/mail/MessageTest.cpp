@@ -30,10 +30,10 @@ std::string Attached(const std::string& parameter, const std::string& name,
            "\tfilename=\"" + name + "\"\n\n" + text;
 }
 
-/// The message behind the headers that every one has.
-std::string BehindCommonHeaders(Message& message) {
-    const std::string text = message.ComposeText();
-    return Replaced(text.substr(text.find("@me>\r\n") + 6), "\r\n", "\n");
+/// The message with single line breaks, from this text on.
+std::string TextFrom(Message& message, const std::string& start) {
+    const std::string text = Replaced(message.ComposeText(), "\r\n", "\n");
+    return text.substr(text.find(start));
 }
 
 TEST(Message, HeadersArePairedFoldedAndCompleted) {
@@ -51,15 +51,12 @@ TEST(Message, HeadersArePairedFoldedAndCompleted) {
         "Subject: S\xE9\nDate: Sun, 7 Mar 2004 09:05:03 +0100\n";
     const std::string own =
         "X-Mailer: Corvane\nMessage-ID: <0000000100AA00BB0000000000000000.MAI@me>\n";
-    EXPECT_EQ(mail.message.ComposeText(),
-              Replaced(start + own + "X-One: 1\n\nHello", "\n", "\r\n"));
+    EXPECT_EQ(TextFrom(mail.message, ""), start + own + "X-One: 1\n\nHello");
     mail.message.ClearHeaders();
     mail.message.AddHeader("x-MAILER: mine\r\nMessage-Id: <mine>");
     mail.message.ContentType = "text/plain";
-    EXPECT_EQ(
-        mail.message.ComposeText(),
-        Replaced(start + "Content-Type: text/plain\nx-MAILER: mine\nMessage-Id: <mine>\n\nHello",
-                 "\n", "\r\n"));
+    EXPECT_EQ(TextFrom(mail.message, ""),
+              start + "Content-Type: text/plain\nx-MAILER: mine\nMessage-Id: <mine>\n\nHello");
 }
 
 TEST(Message, EveryContentHasItsLayout) {
@@ -85,7 +82,7 @@ TEST(Message, EveryContentHasItsLayout) {
             mail.message.AddAttachment((mail.fake.folder / "a.map").string(), "");
             mail.message.AddAttachment(file, "shown");
         }
-        EXPECT_EQ(BehindCommonHeaders(mail.message), text);
+        EXPECT_EQ(TextFrom(mail.message, "MIME-Version"), text);
     }
 }
 
@@ -94,7 +91,7 @@ TEST(Message, WithoutAnyFileInTheCurrentFolderAttachmentsAreAnnounced) {
     std::filesystem::remove(mail.fake.folder / "any");
     for (const bool logged : {false, true}) {  // with the same boundary
         mail.message.NoEventLog = !logged;
-        EXPECT_EQ(BehindCommonHeaders(mail.message), kMixed + "Hello");
+        EXPECT_EQ(TextFrom(mail.message, "MIME-Version"), kMixed + "Hello");
         EXPECT_EQ(mail.fake.ErrorLog().ends_with("\tAttachment () Not Found\r\n"), logged);
     }
 }
@@ -104,13 +101,10 @@ TEST(Message, SetDefaultEmptiesAllButTheFlagsAndWhatIsMissingIsTold) {
     Message& message = mail.message;
     message.AddAttachment("a", "b");
     message.AddHeader("X: y");
-    message.AuthenticationMode = 1;
     message.NoEventLog = message.MIMEEncode = message.HTML = true;
     message.SetDefault();
     EXPECT_EQ(message.ServerPort, 25);
-    EXPECT_EQ(message.AuthenticationMode, 0);
-    for (const bool flag : {message.NoEventLog, message.MIMEEncode, message.HTML})
-        EXPECT_TRUE(flag);
+    EXPECT_TRUE(message.NoEventLog && message.MIMEEncode && message.HTML);
     const std::string text = message.ComposeText();
     EXPECT_TRUE(text.starts_with("From: <>\r\nTo: \r\nSubject: \r\n"));
     EXPECT_TRUE(text.ends_with(".MAI@" + Utf16ToAnsi(GetLocalComputerName()) + ">\r\n\r\n"));

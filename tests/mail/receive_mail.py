@@ -16,8 +16,7 @@ from aiosmtpd.smtp import SMTP, AuthResult
 
 class Receiver:
     async def handle_HELO(self, server, session, envelope, hostname):
-        session.host_name = hostname
-        session.extended_smtp = True  # AUTH is for who says HELO, too
+        session.host_name, session.extended_smtp = hostname, True  # AUTH is for who says HELO, too
         return "250 " + hostname
 
     async def handle_DATA(self, server, session, envelope):
@@ -45,9 +44,8 @@ async def main(folder):
     late = datetime.datetime.now(datetime.timezone.utc) - sent
     print(sent.strftime("%z"), "now" if abs(late.total_seconds()) < 600 else late)
     for part in message.walk():
-        content = part.get_payload(decode=True)
-        if part.get_filename():
-            content = part.get_filename(), (folder / part.get_filename()).read_bytes() == content
+        content, name = part.get_payload(decode=True), part.get_filename()
+        content = f"{name} {(folder / name).read_bytes() == content}" if name else content
         print(part.get_content_type(), *part.defects, content)
 
 

@@ -26,8 +26,8 @@ TEST(Submission, AllMapFilesOfTheBaseAreFoundByTheirExactName) {
           "A-b.net-_tokens-pt.map", "A-bxnet-tokens.map", "A-b.net-tokens.fr"})
         PutFile(folder / name, "");
     std::filesystem::create_directory(folder / "A-b.net-tokens-folder.map");
-    const std::vector<std::filesystem::path> expected{folder / "A-b.net-tokens-fr.map", reference};
-    EXPECT_EQ(MapFilesOfBase(reference, {u"A", u"b.net"}), expected);
+    EXPECT_EQ(MapFilesOfBase(reference, {u"A", u"b.net"}),
+              (std::vector{folder / "A-b.net-tokens-fr.map", reference}));
 }
 
 TEST(Submission, TheFirstFaultyAddressIsTold) {

@@ -20,7 +20,7 @@ int Limited(std::size_t size) {
 /// A look at the connection that takes nothing from it and does not wait.
 std::ptrdiff_t ReceiveNothing(SOCKET socket) {
     fd_set readable{1, {socket}};
-    const timeval atOnce{0, 0};
+    timeval atOnce{0, 0};
     char byte = 0;
     return select(0, &readable, nullptr, nullptr, &atOnce) != 0 &&
                    recv(socket, &byte, 1, MSG_PEEK) < 0
