@@ -5,7 +5,6 @@
 #include <wx/log.h>
 
 #include "app/frmMain.h"
-#include "widgets/ErrorGuard.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/Text.h"
 

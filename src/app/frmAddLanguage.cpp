@@ -2,7 +2,6 @@
 
 #include <wx/button.h>
 
-#include "widgets/Dialogs.h"
 #include "widgets/Layout.h"
 #include "widgets/TextBox.h"
 
@@ -19,25 +18,15 @@ frmAddLanguage::frmAddLanguage(wxWindow* parent)
     auto* cmdOK = NamedButton(this, wxID_OK, "OK", "cmdOK");
     auto* cmdQuit = NamedButton(this, wxID_CANCEL, "Cancel", "cmdQuit");
     AddDialogButtons(*this, column, cmdOK, cmdQuit);
-    cmdOK->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { OnOk(); });
     FitDialog(*this);
 }
 
 bool frmAddLanguage::AddLanguage(std::u16string& sLanguage, std::u16string& sAbbrev) {
-    name_.clear();
-    abbreviation_.clear();
-    ShowModal();
-    if (name_.empty())
+    if (ShowModal() != wxID_OK || txtLanguage->Text().empty())
         return false;
-    sLanguage = name_;
-    sAbbrev = abbreviation_;
+    sLanguage = txtLanguage->Text();
+    sAbbrev = txtAbbrev->Text();
     return true;
-}
-
-void frmAddLanguage::OnOk() {
-    name_ = txtLanguage->Text();
-    abbreviation_ = txtAbbrev->Text();
-    EndDialog(wxID_OK);
 }
 
 }  // namespace cvlang

@@ -18,12 +18,8 @@ class frmAddLanguage : public wxDialog {
     bool AddLanguage(std::u16string& sLanguage, std::u16string& sAbbrev);
 
   private:
-    void OnOk();
-
     TextBox* txtLanguage;
     TextBox* txtAbbrev;
-    std::u16string name_;
-    std::u16string abbreviation_;
 };
 
 }  // namespace cvlang

@@ -2,12 +2,11 @@
 
 #include <wx/button.h>
 
-#include "app/TokenRemoval.h"
+#include "app/Operations.h"
 #include "translation/TokenEditing.h"
 #include "translation/TokenMapFile.h"
-#include "widgets/Dialogs.h"
-#include "widgets/ErrorGuard.h"
 #include "widgets/Layout.h"
+#include "widgets/MessageBoxes.h"
 #include "widgets/TextBox.h"
 
 namespace cvlang {
@@ -24,42 +23,34 @@ frmAddToken::frmAddToken(wxWindow* parent, UserMessages& messages)
     cmdAction = NamedButton(this, wxID_OK, "Remove", "cmdAction");
     auto* cmdCancel = NamedButton(this, wxID_CANCEL, "Cancel", "cmdCancel");
     AddDialogButtons(*this, column, cmdAction, cmdCancel);
-    cmdAction->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
-        ShowingErrors(messages_, [this] { OnAction(); });
-        EndDialog(wxID_OK);
-    });
     FitDialog(*this);
 }
 
 void frmAddToken::AddToken(const std::filesystem::path& sTokenFile) {
-    tokenFile_ = sTokenFile;
-    ShowFor(Mode::Add, "Add New Token", "Add");
+    ShowFor("Add New Token", "Add",
+            [&] { AddTokenLine(sTokenFile, txtTokenName->Text(), txtTokenValue->Text()); });
 }
 
 void frmAddToken::RemoveToken(const std::filesystem::path& sTokenFile,
                               std::u16string_view sTokenName) {
-    tokenFile_ = sTokenFile;
     for (TextBox* box : {txtTokenName, txtTokenValue})
         box->SetEditable(false);
     const TokenEntry entry = SplitTokenEntry(sTokenName);
     txtTokenName->Load(entry.token);
     txtTokenValue->Load(entry.value);
-    ShowFor(Mode::Remove, "Remove Token", "Remove");
+    ShowFor("Remove Token", "Remove",
+            [&] { RemoveTokenAsAsked(messages_, sTokenFile, txtTokenName->Text()); });
 }
 
-void frmAddToken::ShowFor(Mode mode, const wxString& caption, const wxString& action) {
-    mode_ = mode;
-    SetTitle(caption);
-    cmdAction->SetLabel(action);
+void frmAddToken::ShowFor(const wxString& title, const wxString& caption,
+                          const std::function<void()>& action) {
+    SetTitle(title);
+    cmdAction->SetLabel(caption);
+    cmdAction->Bind(wxEVT_BUTTON, [this, action](wxCommandEvent&) {
+        ShowingErrors(messages_, action);
+        EndDialog(wxID_OK);
+    });
     ShowModal();
-}
-
-void frmAddToken::OnAction() {
-    if (mode_ == Mode::Add) {
-        AddTokenLine(tokenFile_, txtTokenName->Text(), txtTokenValue->Text());
-    } else {
-        RemoveTokenAsAsked(messages_, tokenFile_, txtTokenName->Text());
-    }
 }
 
 }  // namespace cvlang

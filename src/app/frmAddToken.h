@@ -4,6 +4,7 @@
 #include <wx/dialog.h>
 
 #include <filesystem>
+#include <functional>
 #include <string_view>
 
 #include "run/UserMessages.h"
@@ -25,14 +26,11 @@ class frmAddToken : public wxDialog {
     void RemoveToken(const std::filesystem::path& sTokenFile, std::u16string_view sTokenName);
 
   private:
-    enum class Mode { Add, Remove };
-
-    void ShowFor(Mode mode, const wxString& caption, const wxString& action);
-    void OnAction();
+    /// Shows the dialog; its first button has this caption and does this.
+    void ShowFor(const wxString& title, const wxString& caption,
+                 const std::function<void()>& action);
 
     UserMessages& messages_;
-    Mode mode_ = Mode::Add;
-    std::filesystem::path tokenFile_;
     TextBox* txtTokenName;
     TextBox* txtTokenValue;
     wxButton* cmdAction;

@@ -5,9 +5,7 @@
 #include <wx/textdlg.h>
 #include <wx/utils.h>
 
-#include "app/ApplicationDiscovery.h"
-#include "app/ApplyCommand.h"
-#include "app/TokenSearch.h"
+#include "app/Operations.h"
 #include "app/frmAddLanguage.h"
 #include "app/frmAddToken.h"
 #include "submission/frmSend.h"
@@ -27,19 +25,14 @@ frmMain::frmMain(Program& program, MakerServices services)
       program_(program),
       services_(std::move(services)) {
     program_.progress = &waiting_;
-    ShowIcon();
+    // Windows only: on Linux the desktop entry names the icon.
+    if (wxIcon icon; icon.LoadFile("appicon", wxBITMAP_TYPE_ICO_RESOURCE))
+        SetIcon(icon);
     CreateMenu();
     CreateControls();
     CreateKeys();
     Guarded(&frmMain::LoadWindow);
     lstApplication->SetFocus();
-}
-
-void frmMain::ShowIcon() {
-    wxIcon icon;
-    // Windows only: on Linux the desktop entry names the icon.
-    if (icon.LoadFile("appicon", wxBITMAP_TYPE_ICO_RESOURCE))
-        SetIcon(icon);
 }
 
 frmMain::~frmMain() {
@@ -83,10 +76,6 @@ void frmMain::OnApplicationClick() {
 
 void frmMain::OnBaseClick() {
     LoadLanguageList(lstApplication->SelectedText());
-}
-
-void frmMain::OnLanguageClick() {
-    LoadTokenList();
 }
 
 void frmMain::OnTokenClick() {

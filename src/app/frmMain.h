@@ -35,17 +35,6 @@ class frmMain : public wxFrame {
         mnuHelpAbout
     };
 
-    // Keys without a menu entry.
-    enum KeyId {
-        SaveKey = mnuHelpAbout + 1,
-        SaveAndNextKey,
-        NextKey,
-        PreviousKey,
-        NextUntranslatedKey,
-        FindKey,
-        FindNextKey
-    };
-
     /// Fills the lists. The program must outlive the window, which shows its progress.
     frmMain(Program& program, MakerServices services);
     ~frmMain() override;
@@ -53,10 +42,8 @@ class frmMain : public wxFrame {
   private:
     using Action = void (frmMain::*)();
 
-    void ShowIcon();
     void CreateMenu();
     void CreateControls();
-    void CreateDescription(wxSizer& column);
     void CreateSelection(wxSizer& column);
     void CreateTokens(wxSizer& column);
     void CreateDetails(wxSizer& column);
@@ -77,7 +64,6 @@ class frmMain : public wxFrame {
 
     void OnApplicationClick();
     void OnBaseClick();
-    void OnLanguageClick();
     void OnTokenClick();
 
     void OnUpdate();

@@ -8,11 +8,12 @@
 #include <wx/statbox.h>
 #include <wx/stattext.h>
 
+#include <tuple>
 #include <vector>
 
 #include "app/frmMain.h"
-#include "widgets/ErrorGuard.h"
 #include "widgets/Layout.h"
+#include "widgets/MessageBoxes.h"
 #include "widgets/NativeControls.h"
 #include "widgets/SelectionList.h"
 #include "widgets/TextBox.h"
@@ -43,29 +44,24 @@ void SetLeastSize(wxWindow* list) {
 }  // namespace
 
 void frmMain::CreateMenu() {
-    auto* mnuFile = new wxMenu;
-    mnuFile->Append(mnuFetchDefault, "&Fetch Default Translation");
-    mnuFile->Append(mnuNewLanguage, "&Add New Language...");
-    mnuFile->AppendSeparator();
-    mnuFile->Append(mnuFileExit, "&Exit");
-    auto* mnuSubmit = new wxMenu;
-    mnuSubmit->Append(mnuSubmitActive, "S&ubmit Active Translation");
-    mnuSubmit->Append(menuSubmitAll, "Submit &All Translations");
-    auto* mnuHelp = new wxMenu;
-    mnuHelp->Append(mnuHelpAbout, "&About..");
-
     auto* bar = new wxMenuBar;
-    bar->Append(mnuFile, "&File");
-    bar->Append(mnuSubmit, "&Submit");
-    bar->Append(mnuHelp, "&Help");
+    wxMenu* menu = nullptr;
+    const auto addMenu = [&](const char* caption) { bar->Append(menu = new wxMenu, caption); };
+    const auto addEntry = [&](MenuId id, const char* caption, Action action) {
+        menu->Append(id, caption);
+        OnCommand(id, action);
+    };
+    addMenu("&File");
+    addEntry(mnuFetchDefault, "&Fetch Default Translation", &frmMain::OnFetchDefault);
+    addEntry(mnuNewLanguage, "&Add New Language...", &frmMain::OnNewLanguage);
+    menu->AppendSeparator();
+    addEntry(mnuFileExit, "&Exit", &frmMain::OnQuit);
+    addMenu("&Submit");
+    addEntry(mnuSubmitActive, "S&ubmit Active Translation", &frmMain::OnSubmitActive);
+    addEntry(menuSubmitAll, "Submit &All Translations", &frmMain::OnSubmitAll);
+    addMenu("&Help");
+    addEntry(mnuHelpAbout, "&About..", &frmMain::OnAbout);
     SetMenuBar(bar);
-
-    OnCommand(mnuFetchDefault, &frmMain::OnFetchDefault);
-    OnCommand(mnuNewLanguage, &frmMain::OnNewLanguage);
-    OnCommand(mnuFileExit, &frmMain::OnQuit);
-    OnCommand(mnuSubmitActive, &frmMain::OnSubmitActive);
-    OnCommand(menuSubmitAll, &frmMain::OnSubmitAll);
-    OnCommand(mnuHelpAbout, &frmMain::OnAbout);
 }
 
 void frmMain::CreateControls() {
@@ -74,7 +70,9 @@ void frmMain::CreateControls() {
     auto* margin = new wxBoxSizer(wxVERTICAL);
     auto* column = new wxBoxSizer(wxVERTICAL);
     margin->Add(column, wxSizerFlags(1).Expand().Border(wxALL, FromDIP(kWindowMargin)));
-    CreateDescription(*column);
+    Label7 = new wxStaticText(panel_, wxID_ANY, kDescription);
+    Label7->SetName("Label7");
+    column->Add(Label7, wxSizerFlags().Expand());
     CreateSelection(*column);
     CreateTokens(*column);
     CreateDetails(*column);
@@ -100,19 +98,13 @@ void frmMain::CreateControls() {
     CentreOnScreen();
 }
 
-void frmMain::CreateDescription(wxSizer& column) {
-    Label7 = new wxStaticText(panel_, wxID_ANY, kDescription);
-    Label7->SetName("Label7");
-    column.Add(Label7, wxSizerFlags().Expand());
-}
-
 void frmMain::CreateSelection(wxSizer& column) {
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     lstApplication = CreateList(*row, "Label1", "Current Application:", "lstApplication",
                                 &frmMain::OnApplicationClick);
     lstBases = CreateList(*row, "Label2", "Application Base:", "lstBases", &frmMain::OnBaseClick);
     lstLanguages =
-        CreateList(*row, "Label3", "Target Language:", "lstLanguages", &frmMain::OnLanguageClick);
+        CreateList(*row, "Label3", "Target Language:", "lstLanguages", &frmMain::LoadTokenList);
     column.Add(row, wxSizerFlags(4).Expand().Border(wxTOP, FromDIP(kGap)));
 }
 
@@ -194,27 +186,21 @@ wxButton* frmMain::CreateButton(wxWindow& parent, const char* caption, const cha
 
 // The keys are not in the menu, because the captions are fixed.
 void frmMain::CreateKeys() {
-    struct Key {
-        int modifiers;
-        int code;
-        KeyId id;
-        Action action;
-    };
-    constexpr Key kKeys[] = {
-        {wxACCEL_CTRL, 'S', SaveKey, &frmMain::OnUpdate},
-        {wxACCEL_CTRL, WXK_RETURN, SaveAndNextKey, &frmMain::OnSaveAndNext},
-        {wxACCEL_CTRL, WXK_NUMPAD_ENTER, SaveAndNextKey, &frmMain::OnSaveAndNext},
-        {wxACCEL_CTRL, WXK_DOWN, NextKey, &frmMain::OnNext},
-        {wxACCEL_CTRL, WXK_UP, PreviousKey, &frmMain::OnPrevious},
-        {wxACCEL_CTRL | wxACCEL_SHIFT, WXK_DOWN, NextUntranslatedKey, &frmMain::OnNextUntranslated},
-        {wxACCEL_CTRL, 'F', FindKey, &frmMain::OnFind},
-        {wxACCEL_NORMAL, WXK_F3, FindNextKey, &frmMain::OnFindNext},
+    const std::tuple<int, int, Action> keys[] = {
+        {wxACCEL_CTRL, 'S', &frmMain::OnUpdate},
+        {wxACCEL_CTRL, WXK_RETURN, &frmMain::OnSaveAndNext},
+        {wxACCEL_CTRL, WXK_NUMPAD_ENTER, &frmMain::OnSaveAndNext},
+        {wxACCEL_CTRL, WXK_DOWN, &frmMain::OnNext},
+        {wxACCEL_CTRL, WXK_UP, &frmMain::OnPrevious},
+        {wxACCEL_CTRL | wxACCEL_SHIFT, WXK_DOWN, &frmMain::OnNextUntranslated},
+        {wxACCEL_CTRL, 'F', &frmMain::OnFind},
+        {wxACCEL_NORMAL, WXK_F3, &frmMain::OnFindNext},
     };
     std::vector<wxAcceleratorEntry> entries;
-    for (const Key& key : kKeys) {
-        entries.emplace_back(key.modifiers, key.code, key.id);
-        if (key.code != WXK_NUMPAD_ENTER)
-            OnCommand(key.id, key.action);
+    for (const auto& [modifiers, code, action] : keys) {
+        const int id = mnuHelpAbout + 1 + static_cast<int>(entries.size());
+        entries.emplace_back(modifiers, code, id);
+        OnCommand(id, action);
     }
     SetAcceleratorTable(wxAcceleratorTable(static_cast<int>(entries.size()), entries.data()));
 }

@@ -1,9 +1,11 @@
 #include "app/frmWait.h"
 
 #include <wx/app.h>
+#include <wx/dialog.h>
 #include <wx/gauge.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
+#include <wx/stopwatch.h>
 #include <wx/utils.h>
 
 #include <algorithm>
@@ -20,6 +22,29 @@ constexpr long kShownWithin = 1000;
 constexpr int kBarWidth = 320;
 
 }  // namespace
+
+/// A window without buttons that asks for patience. Its bar shows steps done of steps to do, or
+/// moves while their number is unknown. No other window takes input until it is gone.
+class frmWait : public wxDialog {
+  public:
+    /// Returns when the window is seen.
+    explicit frmWait(wxWindow* parent);
+    ~frmWait() override;
+
+    void Expect(std::size_t steps);
+    void Step();
+
+  private:
+    void Draw(long limit);
+
+    wxBusyCursor hourglass_;
+    wxWindowDisabler onlyThis_{this};
+    wxGauge* progress_;
+    bool isDrawn_ = false;  // since it was last asked to
+    std::size_t toDo_ = 0;
+    std::size_t done_ = 0;
+    wxStopWatch sinceShown_;  // since the bar was last drawn
+};
 
 frmWait::frmWait(wxWindow* parent)
     : wxDialog(parent, wxID_ANY, "Please Wait ...", wxDefaultPosition, wxDefaultSize, wxCAPTION,
@@ -46,11 +71,15 @@ frmWait::frmWait(wxWindow* parent)
             event.Skip();
         });
     }
-}
-
-void frmWait::ShowAndDraw() {
     Show();
     Draw(kShownWithin);
+}
+
+// What was typed and clicked meanwhile goes to windows that do not take it. Asking where the
+// pointer is waits until the display has sent everything.
+frmWait::~frmWait() {
+    wxGetMousePosition();
+    wxTheApp->Yield(true);
 }
 
 // A display shows windows some time after it was asked to, and draws them once a frame.
@@ -68,11 +97,8 @@ void frmWait::Expect(std::size_t steps) {
 
 void frmWait::Step() {
     ++done_;
-    if (sinceShown_.Time() >= kRedrawAfter)
-        ShowProgress();
-}
-
-void frmWait::ShowProgress() {
+    if (sinceShown_.Time() < kRedrawAfter)
+        return;
     sinceShown_.Start();
     if (toDo_ == 0) {
         progress_->Pulse();
@@ -86,45 +112,26 @@ void frmWait::ShowProgress() {
     Draw(kRedrawnWithin);
 }
 
-/// What stands on the screen while the program works. It is undone in the opposite order.
-struct WaitWindow::Shown {
-    // In front of the window that was opened last, which a click raises.
-    Shown() : window(wxTopLevelWindows.GetLast()->GetData()), onlyThis(&window) {
-        window.ShowAndDraw();
-    }
-    // What was typed and clicked meanwhile goes to windows that do not take it. Asking where the
-    // pointer is waits until the display has sent everything.
-    ~Shown() {
-        wxGetMousePosition();
-        wxTheApp->Yield(true);
-    }
-    Shown(const Shown&) = delete;
-    Shown& operator=(const Shown&) = delete;
-
-    wxBusyCursor hourglass;
-    frmWait window;
-    wxWindowDisabler onlyThis;
-};
-
 WaitWindow::WaitWindow() = default;
 WaitWindow::~WaitWindow() = default;
 
 void WaitWindow::Begin() {
-    shown_ = std::make_unique<Shown>();
+    // In front of the window that was opened last, which a click raises.
+    window_ = std::make_unique<frmWait>(wxTopLevelWindows.GetLast()->GetData());
 }
 
 void WaitWindow::End() {
-    shown_.reset();
+    window_.reset();
 }
 
 void WaitWindow::Expect(const std::function<std::size_t()>& countSteps) {
-    if (shown_)
-        shown_->window.Expect(countSteps());
+    if (window_)
+        window_->Expect(countSteps());
 }
 
 void WaitWindow::Step() {
-    if (shown_)
-        shown_->window.Step();
+    if (window_)
+        window_->Step();
 }
 
 }  // namespace cvlang

@@ -1,5 +1,6 @@
 #include "submission/frmSend.h"
 
+#include <wx/app.h>
 #include <wx/button.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
@@ -8,9 +9,8 @@
 
 #include "platform/Ansi.h"
 #include "platform/Paths.h"
-#include "widgets/Dialogs.h"
-#include "widgets/ErrorGuard.h"
 #include "widgets/Layout.h"
+#include "widgets/MessageBoxes.h"
 #include "widgets/NativeControls.h"
 #include "widgets/Text.h"
 #include "widgets/TextBox.h"
@@ -57,8 +57,7 @@ frmSend::frmSend(wxWindow* parent, Program& program, SubmissionTarget target)
     txtAttachments =
         AddField(*this, AddFields(*this, column), "Label4", "Attachments:", "txtAttachments");
     AddButtons(column);
-    GetSizer()->SetSizeHints(this);
-    CentreOnParent();
+    FitDialog(*this);
     txtFrom->SetFocus();  // the only box that always has to be filled in
 }
 
@@ -68,7 +67,6 @@ void frmSend::AddButtons(wxSizer& column) {
     cmdSend->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
         ShowingErrors(program_.messages, [this] { OnSend(); });
     });
-    cmdCancel->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EndDialog(wxID_CANCEL); });
     // In a sizer of their own: all the height that is left belongs to the body.
     auto* footer = new wxBoxSizer(wxVERTICAL);
     AddDialogButtons(*this, *footer, cmdSend, cmdCancel);
@@ -112,7 +110,7 @@ void frmSend::Open(const std::vector<std::filesystem::path>& files) {
 void frmSend::Attach(const std::vector<std::filesystem::path>& files) {
     MailEnvironment environment;
     environment.clock = target_.clock;
-    environment.processPendingEvents = RepaintWindows;
+    environment.processPendingEvents = [] { wxTheApp->Yield(true); };
     environment.beforeCommand = [this] { program_.progress->Step(); };
     message_ = std::make_unique<Message>(program_.config, program_.logs, std::move(environment));
     std::u16string names;

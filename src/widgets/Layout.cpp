@@ -21,4 +21,36 @@ wxButton* NamedButton(wxWindow* parent, wxWindowID id, const wxString& caption,
                         wxDefaultValidator, name);
 }
 
+wxSizer& StartColumn(wxDialog& dialog) {
+    auto* margin = new wxBoxSizer(wxVERTICAL);
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    column->SetMinSize(dialog.FromDIP(wxSize(kDialogWidth, -1)));
+    margin->Add(column, wxSizerFlags(1).Expand().Border(wxALL, dialog.FromDIP(kWindowMargin)));
+    dialog.SetSizer(margin);
+    if (auto* owner = dynamic_cast<wxTopLevelWindow*>(wxGetTopLevelParent(dialog.GetParent())))
+        dialog.SetIcons(owner->GetIcons());
+    return *column;
+}
+
+void AddDialogButtons(wxDialog& dialog, wxSizer& column, wxButton* action, wxButton* cancel) {
+    auto* buttons = new wxStdDialogButtonSizer;
+    buttons->AddButton(action);
+    buttons->AddButton(cancel);
+    buttons->Realize();
+    // The system's own margin at the right: the buttons are to line up with the boxes.
+    const wxSizerItemList& items = buttons->GetChildren();
+    while (items.GetLast()->GetData()->IsSpacer())
+        buttons->Remove(static_cast<int>(items.size()) - 1);
+    wxSizerItem& last = *items.GetLast()->GetData();
+    last.SetFlag(last.GetFlag() & ~wxRIGHT);
+    action->SetDefault();
+    column.AddStretchSpacer();
+    column.Add(buttons, wxSizerFlags().Right().Border(wxTOP, dialog.FromDIP(kWindowMargin)));
+}
+
+void FitDialog(wxDialog& dialog) {
+    dialog.GetSizer()->SetSizeHints(&dialog);
+    dialog.CentreOnParent();
+}
+
 }  // namespace cvlang

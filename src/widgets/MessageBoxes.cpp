@@ -9,38 +9,33 @@
 #include <wx/generic/msgdlgg.h>  // needs the others
 
 #include <algorithm>
+#include <filesystem>
+#include <utility>
 
+#include "platform/Paths.h"
 #include "platform/SystemMessageBox.h"
 #include "widgets/Text.h"
 
 namespace cvlang {
 namespace {
 
-long ButtonStyle(MessageButtons buttons) {
-    switch (buttons) {
-        case MessageButtons::YesNo:
-            return wxYES_NO;
-        case MessageButtons::YesNoCancel:
-            return wxYES_NO | wxCANCEL;
-        default:
-            return wxOK;
-    }
-}
+constexpr std::pair<MessageIcon, long> kIcons[] = {{MessageIcon::Critical, wxICON_ERROR},
+                                                   {MessageIcon::Question, wxICON_QUESTION},
+                                                   {MessageIcon::Exclamation, wxICON_EXCLAMATION},
+                                                   {MessageIcon::Information, wxICON_INFORMATION}};
 
-/// No style, no icon.
-long IconStyle(MessageIcon icon) {
-    switch (icon) {
-        case MessageIcon::Critical:
-            return wxICON_ERROR;
-        case MessageIcon::Question:
-            return wxICON_QUESTION;
-        case MessageIcon::Exclamation:
-            return wxICON_EXCLAMATION;
-        case MessageIcon::Information:
-            return wxICON_INFORMATION;
-        default:
-            return 0;
-    }
+constexpr std::pair<MessageAnswer, int> kAnswers[] = {{MessageAnswer::Ok, wxID_OK},
+                                                      {MessageAnswer::Cancel, wxID_CANCEL},
+                                                      {MessageAnswer::Yes, wxID_YES},
+                                                      {MessageAnswer::No, wxID_NO}};
+
+long ToolkitStyle(const UserMessage& message) {
+    long style = message.buttons == MessageButtons::Ok ? wxOK : wxYES_NO;
+    if (message.buttons == MessageButtons::YesNoCancel)
+        style |= wxCANCEL;
+    for (const auto& [icon, flag] : kIcons)
+        style |= icon == message.icon ? flag : 0;
+    return style;
 }
 
 wxString WithToolkitLineEnds(std::u16string_view text) {
@@ -65,25 +60,12 @@ wxString Wrapped(wxString line, const wxDC& dc, int width) {
     }
 }
 
-int ToolkitAnswer(MessageAnswer answer) {
-    switch (answer) {
-        case MessageAnswer::Yes:
-            return wxID_YES;
-        case MessageAnswer::No:
-            return wxID_NO;
-        case MessageAnswer::Ok:
-            return wxID_OK;
-        default:
-            return wxID_CANCEL;
-    }
-}
-
 /// The system's own box, or the toolkit's: the native boxes of GTK have no icons.
 class MessageDialog : public wxGenericMessageDialog {
   public:
     explicit MessageDialog(const UserMessage& message)
         : wxGenericMessageDialog(nullptr, WithToolkitLineEnds(message.text), ToWx(message.title),
-                                 ButtonStyle(message.buttons) | IconStyle(message.icon)),
+                                 ToolkitStyle(message)),
           message_(message) {
         if (message.buttons == MessageButtons::YesNo)
             SetEscapeId(wxID_NO);
@@ -94,9 +76,14 @@ class MessageDialog : public wxGenericMessageDialog {
             return wxGenericMessageDialog::ShowModal();
         WX_HOOK_MODAL_DIALOG();
         const wxWindow* owner = GetParent();
-        return ToolkitAnswer(static_cast<MessageAnswer>(SystemMessageBox(
+        const auto pressed = static_cast<MessageAnswer>(SystemMessageBox(
             owner == nullptr ? nullptr : owner->GetHandle(), message_.text, message_.title,
-            static_cast<int>(message_.buttons) | static_cast<int>(message_.icon))));
+            static_cast<int>(message_.buttons) | static_cast<int>(message_.icon)));
+        for (const auto& [answer, id] : kAnswers) {
+            if (answer == pressed)
+                return id;
+        }
+        return wxID_CANCEL;
     }
 
   private:
@@ -116,15 +103,24 @@ class MessageDialog : public wxGenericMessageDialog {
 }  // namespace
 
 MessageAnswer MessageBoxes::Show(const UserMessage& message) {
-    switch (MessageDialog(message).ShowModal()) {
-        case wxID_YES:
-            return MessageAnswer::Yes;
-        case wxID_NO:
-            return MessageAnswer::No;
-        case wxID_OK:
-            return MessageAnswer::Ok;
-        default:
-            return MessageAnswer::Cancel;
+    const int pressed = MessageDialog(message).ShowModal();
+    for (const auto& [answer, id] : kAnswers) {
+        if (id == pressed)
+            return answer;
+    }
+    return MessageAnswer::Cancel;
+}
+
+void ShowingErrors(UserMessages& messages, const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const std::filesystem::filesystem_error& error) {
+        const std::u16string reason = FromWx(wxString(error.code().message()));
+        messages.Show({TextFromPath(error.path1()) + u"\r\n" + reason, u"Error", MessageButtons::Ok,
+                       MessageIcon::Critical});
+    } catch (const std::exception& error) {
+        messages.Show({FromWx(wxString(error.what())), std::u16string(kProgramTitle),
+                       MessageButtons::Ok, MessageIcon::Critical});
     }
 }
 

@@ -1,5 +1,7 @@
-// Messages in the system's own boxes.
+// Messages in the system's own boxes, and the last net under what windows do.
 #pragma once
+
+#include <functional>
 
 #include "run/UserMessages.h"
 
@@ -11,5 +13,9 @@ class MessageBoxes : public UserMessages {
   public:
     MessageAnswer Show(const UserMessage& message) override;
 };
+
+/// Runs an action. An error that it raises is shown with its text, and the window lives on. A
+/// filesystem_error is shown with its path and the system's reason.
+void ShowingErrors(UserMessages& messages, const std::function<void()>& action);
 
 }  // namespace cvlang

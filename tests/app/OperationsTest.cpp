@@ -1,9 +1,7 @@
 // What the window does behind its buttons, without a display.
 #include <gtest/gtest.h>
 
-#include "app/ApplicationDiscovery.h"
-#include "app/ApplyCommand.h"
-#include "app/TokenSearch.h"
+#include "app/Operations.h"
 #include "support/FakeProgram.h"
 
 namespace cvlang {
