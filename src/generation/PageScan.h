@@ -102,7 +102,7 @@ class ScriptTracker {
     bool inside_;
 };
 
-class IndexedToken;
+struct IndexedToken;
 
 /// What every placeholder begins with. Lines without it are never looked at.
 inline constexpr std::string_view kPlaceholderPrefix = "[CV_TXT-";
@@ -116,7 +116,7 @@ struct BracketGroup {
     std::size_t start;
     std::size_t end;
     bool isBehindOpenBracket;  // and no other bracket is in between
-    std::uint32_t hash = 0;    // for TokenIndex
+    std::size_t hash = 0;      // for TokenIndex
     const IndexedToken* token = nullptr;
 
     std::string_view In(std::string_view text) const { return text.substr(start, end - start); }

@@ -76,8 +76,7 @@ std::string_view PlaceholderSubstitution::Normalise(std::string_view page) {
 bool PlaceholderSubstitution::DependsOnOrder(std::string_view text,
                                              const BracketGroup& group) const {
     // Behind an open bracket the value may become part of another placeholder.
-    return (group.token != nullptr &&
-            (group.isBehindOpenBracket || group.token->DependsOnOrder())) ||
+    return (group.token != nullptr && (group.isBehindOpenBracket || group.token->dependsOnOrder)) ||
            tokens_.MayHoldPlaceholder(text.substr(group.start));
 }
 
@@ -135,10 +134,10 @@ void PlaceholderSubstitution::ReplaceAtOnce(Page& page, BracketGroups first, Bra
         if (group->token == nullptr)
             continue;
         CopyUpTo(page, group->start);
-        if (page.script.IsScript(group->start) && group->token->HasQuotes()) {
-            AppendEscapedForScript(group->token->Value(), page.output);
+        if (page.script.IsScript(group->start) && group->token->hasQuotes) {
+            AppendEscapedForScript(group->token->value, page.output);
         } else {
-            page.output.AppendShort(group->token->Value());
+            page.output.AppendShort(group->token->value);
         }
         page.copied = group->end;
     }
@@ -165,7 +164,7 @@ void PlaceholderSubstitution::Count(Page& page, BracketGroups first, BracketGrou
 }
 
 void PlaceholderSubstitution::Count(Page& page, const BracketGroup& group) {
-    const auto index = static_cast<std::size_t>(group.token->Number());
+    const auto index = static_cast<std::size_t>(group.token->number);
     std::uint64_t& countedAt = countedAt_[index];
     if (countedAt >= pageStart_ && group.start >= page.lineEnd) {
         page.lineStart = LineStart(page.text, group.start);
@@ -184,7 +183,7 @@ void PlaceholderSubstitution::CountEmptyTokens(std::string_view text, BracketGro
         TokenNumber lookedAt = 0;
         for (; first != last && first->start < end; ++first) {
             if (first->token != nullptr) {
-                lookedAt = std::max(lookedAt, first->token->Number());
+                lookedAt = std::max(lookedAt, first->token->number);
             } else if (IsPlaceholderAt(text, first->start)) {
                 lookedAt = tokens_.UpperBound();  // as a placeholder is left
             }

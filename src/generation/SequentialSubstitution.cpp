@@ -18,7 +18,7 @@ SequentialSubstitution::SequentialSubstitution(const TokenIndex& tokens, std::st
             lookedAt_ = tokens_.UpperBound();
             break;
         } else {
-            lookedAt_ = next->Number();
+            lookedAt_ = next->number;
             ReplaceToken(*next);
         }
     }
@@ -40,7 +40,7 @@ const IndexedToken* SequentialSubstitution::ReplaceUpToNext() {
         std::string changed;
         const IndexedToken* found = ReplaceGroups(next, changed);
         const IndexedToken* irregular = tokens_.FindIrregular(changed, lookedAt_);
-        if (irregular != nullptr && (found == nullptr || irregular->Number() < found->Number()))
+        if (irregular != nullptr && (found == nullptr || irregular->number < found->number))
             found = irregular;
         if (found == next) {
             text_.swap(changed);
@@ -63,16 +63,16 @@ const IndexedToken* SequentialSubstitution::ReplaceGroups(const IndexedToken* be
     std::size_t copied = 0;
     for (const BracketGroup& group : groups_) {
         const IndexedToken* token = tokens_.FindGroup(group.In(text), lookedAt_);
-        if (token == nullptr || (before != nullptr && token->Number() >= before->Number()))
+        if (token == nullptr || (before != nullptr && token->number >= before->number))
             continue;
         // Behind an open bracket the value may become part of another placeholder.
-        if (group.isBehindOpenBracket || token->DependsOnOrder()) {
+        if (group.isBehindOpenBracket || token->dependsOnOrder) {
             before = token;
             continue;
         }
         output += text.substr(copied, group.start - copied);
         AppendValue(*token, output);
-        replaced_.push_back(token->Number());
+        replaced_.push_back(token->number);
         copied = group.end;
     }
     output += text.substr(copied);
@@ -83,24 +83,24 @@ const IndexedToken* SequentialSubstitution::ReplaceGroups(const IndexedToken* be
 void SequentialSubstitution::ReplaceToken(const IndexedToken& token) {
     std::string output;
     std::size_t copied = 0;
-    std::size_t found = text_.find(token.Token());
+    std::size_t found = text_.find(token.token);
     if (found != std::string::npos)
-        replaced_.push_back(token.Number());
+        replaced_.push_back(token.number);
     while (found != std::string::npos) {
         output.append(text_, copied, found - copied);
         AppendValue(token, output);
-        copied = found + token.Token().size();
-        found = text_.find(token.Token(), copied);
+        copied = found + token.token.size();
+        found = text_.find(token.token, copied);
     }
     output.append(text_, copied);
     text_.swap(output);
 }
 
 void SequentialSubstitution::AppendValue(const IndexedToken& token, std::string& output) const {
-    if (isScript_ && token.HasQuotes()) {
-        output += EscapeForScript(token.Value());
+    if (isScript_ && token.hasQuotes) {
+        output += EscapeForScript(token.value);
     } else {
-        output += token.Value();
+        output += token.value;
     }
 }
 
