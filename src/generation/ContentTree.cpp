@@ -51,55 +51,51 @@ void TraceTokenUse(Program& program, const TextArray& arrTokens) {
     }
 }
 
-/// Whether pages can be translated while they are copied, with the same result as translating them
-/// after everything was copied. They cannot where something is read again after it was written.
+/// Whether translating pages while they are copied gives the same result as translating them after
+/// everything was copied. It does not where something is read again after it was written.
 class OnePassCheck {
   public:
     OnePassCheck(const LanguageFolders& folders, bool languageIsNew)
-        : folders_(folders),
-          languageIsNew_(languageIsNew),
+        : languageIsNew_(languageIsNew),
           code_(PathFromText(folders.referenceCode)),
           language_(RealPath(folders.language)) {}
 
-    bool Passes() const {
-        const fs::path reference = RealPath(folders_.reference);
-        const fs::path& path = folders_.language;
+    bool Passes(const LanguageFolders& folders) const {
+        const fs::path reference = RealPath(folders.reference);
+        const fs::path& path = folders.language;
         return !IsWithin(reference, language_) && !IsWithin(language_, reference) &&
                std::find(path.begin(), path.end(), code_) == path.end() &&
-               IsPlain(folders_.reference, true) && (languageIsNew_ || IsPlain(path, false));
+               IsPlain(folders.reference) && IsPlain(path);
     }
 
   private:
-    bool IsPlain(const fs::path& folder, bool isReference) const {
+    bool IsPlain(const fs::path& folder) const {
         const FolderListing listing = ListFolder(folder);
-        // What lies behind links is not examined. Names that differ only in case may be copied to
-        // the same file.
-        if (isReference &&
-            (!listing.linkedFolders.empty() || (!languageIsNew_ && HasAlikeNames(listing))))
+        // Folders behind links are not examined. Files whose names differ only in letter case may
+        // be copied to the same existing file.
+        if (!listing.linkedFolders.empty() || (!languageIsNew_ && HasAlikeNames(listing)))
             return false;
         for (const fs::path& name : listing.linkedFiles) {
             const fs::path target = RealPath(folder / name);
             if (target.empty() || IsWithin(target, language_))
                 return false;
         }
-        // Pages below a folder of the reference folder's name are written to another folder.
-        return std::all_of(listing.folders.begin(), listing.folders.end(),
-                           [&](const fs::path& name) {
-                               return name != code_ && IsPlain(folder / name, isReference);
-                           });
+        // Pages in a folder of the reference folder's name are written to another folder.
+        return std::all_of(
+            listing.folders.begin(), listing.folders.end(),
+            [&](const fs::path& name) { return name != code_ && IsPlain(folder / name); });
     }
 
-    const LanguageFolders& folders_;
     bool languageIsNew_;
     fs::path code_;
     fs::path language_;
 };
 
-/// Copies the reference folder and translates its pages: on their way where that comes to the same,
-/// otherwise where they lie then, as all other pages of the language's folder.
+/// Copies the reference folder and translates its pages while they are copied, if the result is the
+/// same. All other pages are translated where they are in the language's folder.
 void GeneratePages(Program& program, const LanguageFolders& folders, PageTranslator& pages) {
     const bool isNew = CreateFolder(folders.language);
-    const bool inOnePass = OnePassCheck(folders, isNew).Passes();
+    const bool inOnePass = OnePassCheck(folders, isNew).Passes(folders);
     bool isComplete = isNew;
     CopyFolder(folders.reference, folders.language, isNew, [&](const CopiedFile& file) {
         const bool isPage = IsPage(file.target.name);

@@ -1,32 +1,26 @@
 #include "generation/PageScan.h"
 
-#include <algorithm>
-
 #ifdef __SSE2__
 #include <emmintrin.h>
 #endif
 
+#include <string>
+
+#include "text/AsciiCase.h"
+
 namespace cvlang {
 namespace {
 
-// Compared without regard to the case of ASCII letters.
-constexpr std::string_view kOpeningTag = "<SCRIPT ";
-constexpr std::string_view kClosingTag = "</SCRIPT>";
+constexpr std::string_view kOpeningTag = "<script ";
+constexpr std::string_view kClosingTag = "</script>";
 
-bool StartsWith(std::string_view text, std::string_view upperTag) {
-    return text.size() >= upperTag.size() &&
-           std::equal(upperTag.begin(), upperTag.end(), text.begin(), [](char tag, char c) {
-               return tag == (c >= 'a' && c <= 'z' ? static_cast<char>(c - 0x20) : c);
-           });
-}
-
-// The same questions are asked of one character at a time and of sixteen.
+// These tests work on one character and on sixteen at once.
 template <typename Characters>
 auto IsBracket(Characters c) {
     return c.Is('[') | c.Is(']');
 }
 
-/// Whether "<" or "/", the closing tag's second character, stands before "sc".
+/// Whether "<", or "/" as the closing tag's second character, is followed by "sc".
 template <typename Characters>
 auto MayBeScriptTag(Characters c, Characters next, Characters afterNext) {
     return (c.Is('<') | c.Is('/')) & next.IsLetter('s') & afterNext.IsLetter('c');
@@ -36,7 +30,7 @@ class OneCharacter {
   public:
     explicit OneCharacter(const char* at) : c_(*at) {}
     unsigned Is(char c) const { return c_ == c; }
-    unsigned IsLetter(char lower) const { return (c_ | 0x20) == lower; }
+    unsigned IsLetter(char lower) const { return LowerAscii(c_) == lower; }
 
   private:
     char c_;
@@ -44,7 +38,7 @@ class OneCharacter {
 
 #ifdef __SSE2__
 
-// Looked at together: as many places as a number has bits.
+// The characters that are scanned together: as many as a number has bits.
 constexpr std::size_t kBlock = 64;
 
 class SixteenCharacters {
@@ -60,19 +54,20 @@ class SixteenCharacters {
     __m128i c_;
 };
 
-/// What is found at the places of a block, a bit for each.
+/// What is found in a block, with a bit for each character.
 struct Found {
     std::uint64_t brackets = 0;
     std::uint64_t scriptTags = 0;
-    bool breaksCrLf = false;  // a CR stands before, or an LF behind, something else
+    bool hasOnlyCrLf =
+        true;  // every CR is before an LF, and every LF behind the block's start after a CR
 };
 
 std::uint64_t Bits(__m128i answers) {
     return static_cast<std::uint64_t>(_mm_movemask_epi8(answers));
 }
 
-/// A whole block, behind which two more characters can be read.
-Found LookAtBlock(const char* text) {
+/// Scans a whole block, after which two more characters are readable.
+Found ScanBlock(const char* text) {
     Found found;
     __m128i brokenCrLfs = _mm_setzero_si128();
     __m128i scriptTags[4];
@@ -84,7 +79,7 @@ Found LookAtBlock(const char* text) {
         scriptTags[i] = MayBeScriptTag(c, next, afterNext);
         brokenCrLfs |= c.Is('\r') ^ next.Is('\n');
     }
-    found.breaksCrLf = Bits(brokenCrLfs) != 0;
+    found.hasOnlyCrLf = Bits(brokenCrLfs) == 0;
     if (Bits(scriptTags[0] | scriptTags[1] | scriptTags[2] | scriptTags[3]) != 0) {
         for (std::size_t i = 0; i < 4; ++i)
             found.scriptTags |= Bits(scriptTags[i]) << 16 * i;
@@ -92,49 +87,29 @@ Found LookAtBlock(const char* text) {
     return found;
 }
 
-/// CR and LF without the other in the block that starts there, a bit for each.
-std::uint64_t IrregularLineEnds(std::string_view page, std::size_t start) {
-    std::uint64_t cr = 0;
-    std::uint64_t lf = 0;
-    for (std::size_t i = 0; i < 4; ++i) {
-        const SixteenCharacters c(page.data() + start + 16 * i);
-        cr |= Bits(c.Is('\r')) << 16 * i;
-        lf |= Bits(c.Is('\n')) << 16 * i;
-    }
-    constexpr std::uint64_t kFirst = 1;
-    constexpr std::uint64_t kLast = kFirst << (kBlock - 1);
-    const std::uint64_t behindCr = cr << 1 | (start > 0 && page[start - 1] == '\r' ? kFirst : 0);
-    const std::uint64_t beforeLf = lf >> 1 | (page[start + kBlock] == '\n' ? kLast : 0);
-    return (cr & ~beforeLf) | (lf & ~behindCr);
-}
-
 #endif
 
 }  // namespace
 
 void PageScan::Scan(std::string_view page) {
-    irregularLineEnds_.clear();
+    hasOnlyCrLf_ = !page.starts_with('\n');
     brackets_.clear();
     scriptTags_.clear();
     const auto noteScriptTag = [&](std::size_t place) {
         const std::size_t start = page[place] == '/' && place > 0 ? place - 1 : place;
-        const std::string_view tag = page.substr(start);
-        if (StartsWith(tag, kOpeningTag) || StartsWith(tag, kClosingTag))
+        const std::string tag = ToLowerCase(page.substr(start, kClosingTag.size()));
+        if (tag.starts_with(kOpeningTag) || tag == kClosingTag)
             scriptTags_.push_back(start);
     };
     std::size_t start = 0;
 #ifdef __SSE2__
-    bool hasIrregularLineEnds = page.starts_with('\n');
     for (; page.size() - start >= kBlock + 2; start += kBlock) {
-        const Found found = LookAtBlock(page.data() + start);
+        const Found found = ScanBlock(page.data() + start);
         if (found.brackets != 0)
             brackets_.push_back({start, found.brackets});
         for (std::uint64_t bits = found.scriptTags; bits != 0; bits &= bits - 1)
             noteScriptTag(start + static_cast<std::size_t>(std::countr_zero(bits)));
-        // From the first one on, as an LF at a block's start breaks a pair in the block before.
-        hasIrregularLineEnds = hasIrregularLineEnds || found.breaksCrLf;
-        if (hasIrregularLineEnds)
-            irregularLineEnds_.push_back({start, IrregularLineEnds(page, start)});
+        hasOnlyCrLf_ = hasOnlyCrLf_ && found.hasOnlyCrLf;
     }
 #endif
     for (std::size_t i = start; i < page.size(); ++i) {
@@ -143,24 +118,31 @@ void PageScan::Scan(std::string_view page) {
         };
         if (IsBracket(at(0)))
             brackets_.push_back({i, 1});
-        const bool isCrLf =
-            page[i] == '\r' ? page.substr(i + 1).starts_with('\n') : i > 0 && page[i - 1] == '\r';
-        if ((at(0).Is('\r') | at(0).Is('\n')) && !isCrLf)
-            irregularLineEnds_.push_back({i, 1});
+        if (at(0).Is('\r') != page.substr(i + 1).starts_with('\n'))
+            hasOnlyCrLf_ = false;
         if (i + 2 < page.size() && MayBeScriptTag(at(0), at(1), at(2)))
             noteScriptTag(i);
     }
 }
 
-void NormaliseLineEnds(std::string_view page, const PageScan& scan, PageText& normalised) {
+void NormaliseLineEnds(std::string_view page, PageText& normalised) {
     normalised.Truncate(0);
-    std::size_t copied = 0;
-    scan.ForEachIrregularLineEnd([&](std::size_t place) {
-        normalised.Append(page.substr(copied, place - copied));
-        normalised.Append(kCrLf);
-        copied = place + 1;
-    });
-    normalised.Append(page.substr(copied));
+    while (!page.empty()) {
+        const std::size_t end = page.find('\n');
+        const bool endsByLf = end != std::string_view::npos;
+        std::string_view line = page.substr(0, end);
+        page.remove_prefix(endsByLf ? end + 1 : page.size());
+        if (endsByLf && line.ends_with('\r'))
+            line.remove_suffix(1);
+        for (std::size_t cr = 0; (cr = line.find('\r')) != std::string_view::npos;) {
+            normalised.Append(line.substr(0, cr));
+            normalised.Append(kCrLf);
+            line.remove_prefix(cr + 1);
+        }
+        normalised.Append(line);
+        if (endsByLf)
+            normalised.Append(kCrLf);
+    }
 }
 
 ScriptTracker::ScriptTracker(std::string_view page, const PageScan& scan, ScriptMode mode)

@@ -17,49 +17,38 @@ namespace cvlang {
 
 class PageScan {
   public:
-    /// Notes what the page holds, instead of what was noted before.
+    /// Scans a page. The results of the page before are replaced.
     void Scan(std::string_view page);
 
-    /// Whether CR and LF stand nowhere but side by side.
-    bool HasOnlyCrLf() const { return irregularLineEnds_.empty(); }
-
-    /// Calls the function with the position of each CR and LF without the other, in order.
-    template <typename Function>
-    void ForEachIrregularLineEnd(Function function) const {
-        ForEach(irregularLineEnds_, function);
-    }
+    /// Whether every CR is before an LF, and every LF after a CR.
+    bool HasOnlyCrLf() const { return hasOnlyCrLf_; }
 
     /// Calls the function with the position of each "[" and "]", in order.
     template <typename Function>
     void ForEachBracket(Function function) const {
-        ForEach(brackets_, function);
-    }
-
-    /// Where "<SCRIPT " and "</SCRIPT>" stand, in any case.
-    const std::vector<std::size_t>& ScriptTags() const { return scriptTags_; }
-
-  private:
-    /// A bit for each place from `start` where something stands.
-    struct Block {
-        std::size_t start;
-        std::uint64_t bits;
-    };
-
-    template <typename Function>
-    static void ForEach(const std::vector<Block>& blocks, Function function) {
-        for (const Block& block : blocks) {
+        for (const Block& block : brackets_) {
             for (std::uint64_t bits = block.bits; bits != 0; bits &= bits - 1)
                 function(block.start + static_cast<std::size_t>(std::countr_zero(bits)));
         }
     }
 
-    std::vector<Block> irregularLineEnds_;  // blocks from the first one that has some
-    std::vector<Block> brackets_;           // only blocks that have some
+    /// The positions of "<SCRIPT " and "</SCRIPT>", in any letter case.
+    const std::vector<std::size_t>& ScriptTags() const { return scriptTags_; }
+
+  private:
+    /// A bit for each bracket from `start` on.
+    struct Block {
+        std::size_t start;
+        std::uint64_t bits;
+    };
+
+    bool hasOnlyCrLf_ = true;
+    std::vector<Block> brackets_;  // only blocks with a bracket
     std::vector<std::size_t> scriptTags_;
 };
 
-/// Makes `normalised` the page with CR LF wherever its scan notes one of them alone.
-void NormaliseLineEnds(std::string_view page, const PageScan& scan, PageText& normalised);
+/// Makes `normalised` the page with CR LF instead of each CR, LF and CR LF.
+void NormaliseLineEnds(std::string_view page, PageText& normalised);
 
 /// Where the line of this position begins, on a page whose lines end by CR LF.
 inline std::size_t LineStart(std::string_view page, std::size_t position) {

@@ -63,7 +63,7 @@ void PlaceholderSubstitution::ReleaseMemory() {
 std::string_view PlaceholderSubstitution::Normalise(std::string_view page) {
     scan_.Scan(page);
     if (!scan_.HasOnlyCrLf()) {
-        NormaliseLineEnds(page, scan_, normalised_);
+        NormaliseLineEnds(page, normalised_);
         page = normalised_.View();
         scan_.Scan(page);
     }
