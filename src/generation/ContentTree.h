@@ -10,8 +10,8 @@
 
 namespace cvlang {
 
-/// Generates the pages of a language for an application base, over what is there already. True when
-/// the language's folder was prepared, whatever became of single files.
+/// Generates the pages of a language for an application base, over what is there already. Always
+/// true, also when single files could not be written.
 bool ApplyTranslation(Program& program, const Selection& selection);
 
 /// The same for an application, a base and a language.

@@ -167,10 +167,6 @@ void ScriptTracker::TakeNextLine() {
     nextChange_ = NextLine();
 }
 
-bool IsPlaceholderAt(std::string_view text, std::size_t position) {
-    return text.substr(position, kPlaceholderPrefix.size()) == kPlaceholderPrefix;
-}
-
 bool HoldsPlaceholder(std::string_view text) {
     return text.find(kPlaceholderPrefix) != std::string_view::npos;
 }
@@ -183,7 +179,7 @@ void FindBracketGroups(std::string_view text, const PageScan& scan, bool all,
     std::size_t open = kNone;
     const auto note = [&](std::size_t end) {
         const bool isClosed = end != open;
-        if ((all && isClosed) || IsPlaceholderAt(text, open))
+        if ((all && isClosed) || text.substr(open).starts_with(kPlaceholderPrefix))
             groups.push_back({open, end, isBehindOpenBracket});
         isBehindOpenBracket = !isClosed;
     };

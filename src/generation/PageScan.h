@@ -93,13 +93,12 @@ class ScriptTracker {
 
 struct IndexedToken;
 
-/// What every placeholder begins with. Lines without it are never looked at.
+/// The beginning of every placeholder. Lines without it are copied unchanged.
 inline constexpr std::string_view kPlaceholderPrefix = "[CV_TXT-";
 
-bool IsPlaceholderAt(std::string_view text, std::size_t position);
 bool HoldsPlaceholder(std::string_view text);
 
-/// A text from "[" to "]" without further brackets, or nothing where a placeholder begins that is
+/// A text from "[" to "]" without further brackets. It is empty where a placeholder begins that is
 /// not closed before the next bracket.
 struct BracketGroup {
     std::size_t start;

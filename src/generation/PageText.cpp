@@ -37,17 +37,11 @@ std::string EscapeForScript(std::string_view sText) {
 }
 
 void AppendEscapedForScript(std::string_view text, PageText& page) {
-    const std::size_t most = 2 * text.size();
-    char* const start = page.Extend(most);
-    char* end = start;
     for (const char c : text) {
-        // The backslash is written in any case, and stays for a quote: no surprise for the
-        // processor.
-        *end = '\\';
-        end += c == '\'' || c == '"' ? 1 : 0;
-        *end++ = c;
+        if (c == '\'' || c == '"')
+            page.Append("\\");
+        page.Append({&c, 1});
     }
-    page.Truncate(page.Size() - most + static_cast<std::size_t>(end - start));
 }
 
 }  // namespace cvlang

@@ -1,5 +1,5 @@
-// A page's text while it is put together, and how a value is encoded in it. Pages are bytes: their
-// own text is not converted, values are UTF-8.
+// A buffer for a page's text, and the encoding of values. Pages are bytes: their own text is not
+// converted, values are UTF-8.
 #pragma once
 
 #include <algorithm>
@@ -27,8 +27,8 @@ class PageText {
 
     void Append(std::string_view piece) { piece.copy(Extend(piece.size()), piece.size()); }
 
-    /// For pieces of less than kReadable bytes mostly: copying so many always spares the processor
-    /// guessing the piece's size, which it often knows late.
+    /// For pieces that are mostly shorter than kReadable. A copy of constant size avoids branch
+    /// mispredictions.
     void AppendShort(std::string_view piece) {
         char* const end = Extend(piece.size());
         std::memcpy(end, piece.data(), kReadable);
@@ -48,7 +48,7 @@ class PageText {
   private:
     void Grow(std::size_t size) {
         const std::size_t capacity = std::max(capacity_ + capacity_ / 4, size_ + size);
-        // A large text stays where it lies: no second one is needed beside it.
+        // Grows in place where possible, so that a large text needs no second buffer.
         auto* larger = static_cast<char*>(std::realloc(buffer_.get(), capacity));
         if (larger == nullptr)
             throw std::bad_alloc();
@@ -67,8 +67,8 @@ class PageText {
 
 inline constexpr std::string_view kUtf8ByteOrderMark = "\xEF\xBB\xBF";
 
-/// Encodes a text as UTF-8 into the array and returns the number of bytes. Each 16-bit code stands
-/// for itself, surrogate halves too: the web applications read pages back that way. An empty text
+/// Encodes a text as UTF-8 into the array and returns the number of bytes. Deliberate: each
+/// UTF-16 code unit is encoded by itself, also each half of a surrogate pair. An empty text
 /// leaves the array untouched.
 std::size_t EncodeUTF8(std::u16string_view sText, std::vector<std::uint8_t>& bytOutput);
 

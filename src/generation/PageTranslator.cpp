@@ -55,7 +55,7 @@ void PageTranslator::TranslateFile(const Folder& folder, const fs::path& name, b
         // A page too large for this machine is one that cannot be read.
         ReleaseMemory();
     }
-    // A log that cannot be written must not keep the other pages from being translated.
+    // The other pages are translated even when the log cannot be written.
     [[maybe_unused]] const auto ignored = program_.logs.LogTranslationEvent(
         u"Error - could not find asp source: " + TextFromPath(folder.Path() / name));
 }
@@ -109,7 +109,7 @@ void PageTranslator::RewriteFile(const Folder& folder, const fs::path& name) {
     }
 }
 
-/// The page behind one byte-order mark: its own, if it has one.
+/// The page with one byte-order mark: its own, if it has one.
 std::string_view PageTranslator::PageBytes() const {
     std::string_view bytes = page_.View();
     if (bytes.substr(kUtf8ByteOrderMark.size(), kUtf8ByteOrderMark.size()) == kUtf8ByteOrderMark)
@@ -128,7 +128,7 @@ void PageTranslator::WriteElsewhere(const fs::path& destination) {
         created_.insert(destination.lexically_normal());
 }
 
-/// The folder that mirrors this one in the language's folder; empty when it lies there already.
+/// The mirrored path in the language's folder; empty for a folder that is in it already.
 fs::path PageTranslator::DestinationOf(const Folder& source) const {
     fs::path::string_type text = source.Path().native();
     text += fs::path::preferred_separator;

@@ -24,20 +24,20 @@ class PageTranslator {
     PageTranslator(const PageTranslator&) = delete;
     PageTranslator& operator=(const PageTranslator&) = delete;
 
-    /// Reads a page, replaces its placeholders and writes it, as UTF-8 behind a byte-order mark, to
-    /// the mirrored path in the language's folder, which is the page itself when it lies there
-    /// already. Values are escaped where they land in script, unless the flag is false. A page that
-    /// cannot be read leaves a line in the log, one that cannot be written is not produced.
+    /// Reads a page, replaces its placeholders and writes it as UTF-8 with a byte-order mark. A
+    /// page of the language's folder is replaced, any other is written to the mirrored path in that
+    /// folder. Values in script are escaped, unless the flag is false. A page that cannot be read
+    /// is logged; one that cannot be written is not produced.
     void TranslateFile(const std::filesystem::path& sSourcePath, bool bScriptAware);
     /// The same for a file of a folder.
     void TranslateFile(const Folder& folder, const std::filesystem::path& name, bool bScriptAware);
 
-    /// Reads a page in the one folder and writes it translated to the other, in the place of its
-    /// copy. False, with nothing written or only a plain copy missing, when that does not succeed.
+    /// Writes a page translated instead of copying it. False on failure; the target is then
+    /// unchanged or missing.
     bool TranslateCopy(const CopiedFile& file);
 
-    /// Whether the file needs no translation any more: it is such a copy, or was written elsewhere
-    /// than it was read, in the place of none.
+    /// Whether the file needs no translation: TranslateCopy wrote it, or TranslateFile created it
+    /// at a mirrored path.
     bool IsTranslated(const Folder& folder, const std::filesystem::path& name) const;
 
   private:

@@ -9,7 +9,7 @@
 namespace cvlang {
 namespace {
 
-// Tokens are numbered with 16 bits; installations rely on pages being left alone beyond that.
+// Deliberate: with more tokens, a page that holds placeholders is not translated.
 constexpr TokenNumber kMostTokens = std::numeric_limits<std::int16_t>::max();
 
 using BracketGroups = std::vector<BracketGroup>::const_iterator;
@@ -59,7 +59,7 @@ void PlaceholderSubstitution::ReleaseMemory() {
     groups_ = std::vector<BracketGroup>();
 }
 
-/// The page's lines, joined by CR LF, without the last line's end, and outlined.
+/// Scans the page. Returns its lines, separated by CR LF, without the last line end.
 std::string_view PlaceholderSubstitution::Normalise(std::string_view page) {
     scan_.Scan(page);
     if (!scan_.HasOnlyCrLf()) {
@@ -80,8 +80,8 @@ bool PlaceholderSubstitution::DependsOnOrder(std::string_view text,
            tokens_.MayHoldPlaceholder(text.substr(group.start));
 }
 
-/// Replaces the groups of whole lines, from where the page has been copied to up to `end`, at once
-/// where no irregular token may have been on a line at some time.
+/// Replaces the groups of the lines that are not copied yet, up to `end`. That is done at once,
+/// except on lines that may have held an irregular token at some time.
 void PlaceholderSubstitution::ReplaceLines(Page& page, BracketGroups first, BracketGroups last,
                                            std::size_t end) {
     const Page before = page;
@@ -112,8 +112,8 @@ void PlaceholderSubstitution::ReplaceLines(Page& page, BracketGroups first, Brac
     CopyUpTo(page, end);
 }
 
-/// Takes the line of the first group through the tokens in order, and returns the first group
-/// behind the line.
+/// Replaces the tokens in order on the line of the first group. Returns the first group after the
+/// line.
 PlaceholderSubstitution::BracketGroups PlaceholderSubstitution::ReplaceLineInOrder(
     Page& page, BracketGroups first, BracketGroups last) {
     CopyUpTo(page, LineStart(page.text, first->start));
@@ -143,8 +143,7 @@ void PlaceholderSubstitution::ReplaceAtOnce(Page& page, BracketGroups first, Bra
     }
 }
 
-/// A line that became empty at the start of the output is dropped like one that was empty from the
-/// first.
+/// Drops empty lines at the start of the output, also those that replacements made empty.
 void PlaceholderSubstitution::CopyUpTo(Page& page, std::size_t position) {
     if (page.output.Size() == page.outputStart) {
         while (page.copied < position && page.text.substr(page.copied, kCrLf.size()) == kCrLf)
@@ -184,7 +183,7 @@ void PlaceholderSubstitution::CountEmptyTokens(std::string_view text, BracketGro
         for (; first != last && first->start < end; ++first) {
             if (first->token != nullptr) {
                 lookedAt = std::max(lookedAt, first->token->number);
-            } else if (IsPlaceholderAt(text, first->start)) {
+            } else if (text.substr(first->start).starts_with(kPlaceholderPrefix)) {
                 lookedAt = tokens_.UpperBound();  // as a placeholder is left
             }
         }
@@ -192,8 +191,8 @@ void PlaceholderSubstitution::CountEmptyTokens(std::string_view text, BracketGro
     }
 }
 
-/// Every line contains the empty token, so that all of them up to the last token looked at count as
-/// replaced.
+/// Every line contains the empty token. Those up to the last token that was searched for on the
+/// line count as replaced.
 void PlaceholderSubstitution::CountEmptyTokensUpTo(TokenNumber last) {
     const auto& empty = tokens_.EmptyTokens();
     const auto lookedAt = std::upper_bound(empty.begin(), empty.end(), last) - empty.begin();

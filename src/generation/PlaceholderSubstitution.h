@@ -1,11 +1,11 @@
 // Replaces the placeholders of a page.
 //
-// What comes out is defined by a plain procedure: line by line, token by token in array order,
-// every occurrence of the token is replaced by its value, as long as the line still holds the
-// beginning of a placeholder. Going through all tokens for every line would take minutes for a
-// large installation, so a page is read once and its placeholders are looked up. That comes to the
-// same wherever no replacement can make or break another placeholder; a line where one can is taken
-// through its tokens in order. docs/architecture.md says why.
+// The result is defined by a plain procedure. For each line and each token in array order, every
+// occurrence of the token is replaced by its value, while the line holds the beginning of a
+// placeholder. Searching each line for all tokens would take minutes for a large installation.
+// Therefore the page is read once, and its placeholders are looked up. The result is the same where
+// no replacement can make or break another placeholder. On other lines the tokens are replaced in
+// order. docs/architecture.md says why.
 #pragma once
 
 #include <cstddef>
@@ -27,10 +27,9 @@ class PlaceholderSubstitution {
 
     /// Appends the page's text to `output`: placeholders replaced, lines ended by CR LF, without
     /// the blank lines at the start and without the last line's end. False when the page holds a
-    /// placeholder and there are more tokens than can be numbered (32767); the output is then of no
-    /// use.
+    /// placeholder and there are more than 32767 tokens; the output is then undefined.
     bool Translate(std::string_view page, ScriptMode mode, PageText& output);
-    /// Takes a page's replacements out of the counts again: it could not be written.
+    /// Subtracts the replacements of a page from the counts, because it could not be written.
     void Uncount(std::string_view page, ScriptMode mode, PageText& output) {
         step_ = -1;
         Translate(page, mode, output);
@@ -68,15 +67,15 @@ class PlaceholderSubstitution {
     const TokenIndex& tokens_;
     std::vector<std::int32_t>& useCounts_;
     std::int32_t step_ = 1;  // that counts change by
-    // Of the page at hand.
+    // Of the current page.
     PageText normalised_;  // when it had other line ends
     PageScan scan_;
     std::vector<BracketGroup> groups_;
-    // Per token, where it was last counted. Pages follow one another without ever starting anew.
+    // Per token, where it was last counted. Positions increase from page to page.
     std::vector<std::uint64_t> countedAt_;
     std::uint64_t pageStart_ = 0;
     std::uint64_t nextPageStart_ = 1;
-    std::vector<std::int32_t> linesByEmptyTokens_;  // how many lines looked at so many empty tokens
+    std::vector<std::int32_t> linesByEmptyTokens_;  // index: the number of empty tokens counted
 };
 
 }  // namespace cvlang

@@ -31,8 +31,8 @@ std::vector<TokenNumber> SequentialSubstitution::Replaced() const {
     return numbers;
 }
 
-/// Replaces the tokens behind those looked at up to the next one whose place in the order matters,
-/// and returns that one; null when there is none.
+/// Replaces the tokens after `lookedAt_`, up to the next one whose place in the order matters.
+/// Returns that one; null when there is none.
 const IndexedToken* SequentialSubstitution::ReplaceUpToNext() {
     const auto replacedBefore = static_cast<std::ptrdiff_t>(replaced_.size());
     const IndexedToken* next = tokens_.FindIrregular(text_, lookedAt_);
@@ -46,14 +46,14 @@ const IndexedToken* SequentialSubstitution::ReplaceUpToNext() {
             text_.swap(changed);
             return next;
         }
-        // An earlier one turned up on the way: only what comes before it counts.
+        // The replacements brought an earlier one: only tokens before that one may be replaced.
         replaced_.erase(replaced_.begin() + replacedBefore, replaced_.end());
         next = found;
     }
 }
 
-/// Appends the text with each group replaced that is a token behind those looked at and before
-/// `before` (null: up to the last) and whose place in the order does not matter. Returns the first
+/// Appends the text with groups replaced: those that are tokens after `lookedAt_` and before
+/// `before` (null: up to the last) whose place in the order does not matter. Returns the first
 /// token between them whose place does matter, or else `before`.
 const IndexedToken* SequentialSubstitution::ReplaceGroups(const IndexedToken* before,
                                                           std::string& output) {

@@ -1,4 +1,4 @@
-// The plain way of replacing tokens: through all of them in array order.
+// Replaces the tokens on a line in array order.
 #pragma once
 
 #include <string>
@@ -10,8 +10,7 @@
 namespace cvlang {
 
 /// A line with its tokens replaced in array order, as long as it holds the beginning of a
-/// placeholder. Between two tokens whose place in the order matters, the others are replaced in one
-/// go.
+/// placeholder. The tokens between two whose place in the order matters are replaced at once.
 class SequentialSubstitution {
   public:
     SequentialSubstitution(const TokenIndex& tokens, std::string_view line, bool isScript);
@@ -19,7 +18,7 @@ class SequentialSubstitution {
     const std::string& Text() const { return text_; }
     /// The tokens that were replaced, each once.
     std::vector<TokenNumber> Replaced() const;
-    /// The last token that was looked at before the line held no more placeholders.
+    /// The last token that was searched for before the line held no more placeholders.
     TokenNumber LookedAt() const { return lookedAt_; }
 
   private:

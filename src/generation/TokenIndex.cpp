@@ -63,9 +63,9 @@ void TokenIndex::Add(TokenNumber number, std::u16string_view token, std::u16stri
         empty_.push_back(number);
         return;
     }
-    encoded_.clear();
-    EncodeUTF8(value, encoded_);
-    const std::string_view bytes = BytesToString(encoded_);
+    std::vector<std::uint8_t> encoded;
+    EncodeUTF8(value, encoded);
+    const std::string_view bytes = BytesToString(encoded);
     const bool hasQuotes = bytes.find_first_of("'\"") != std::string_view::npos;
     const bool dependsOnOrder =
         !ansi->starts_with(kPlaceholderPrefix) || bytes.find('[') != std::string_view::npos;
@@ -118,12 +118,13 @@ void TokenIndex::LookUp(std::string_view page, std::vector<BracketGroup>& groups
         group.token = slots_[FindSlot(group.In(page), group.hash)].token;
 }
 
-void TokenIndex::AddIrregular(const IndexedToken& token) {
+void TokenIndex::AddIrregular(IndexedToken& token) {
     const std::string_view text = token.token;
-    irregular_.push_back({&token, LongestPiece(text)});
+    token.longestPiece = LongestPiece(text);
+    irregular_.push_back(&token);
     const std::size_t start = text.find(kPlaceholderPrefix);
     if (start == std::string_view::npos) {
-        loosePieces_.push_back(irregular_.back().piece);
+        loosePieces_.push_back(token.longestPiece);
         return;
     }
     const std::size_t end = text.find_first_of("[]", start + 1);
@@ -143,11 +144,10 @@ void TokenIndex::SortPlaceholderStarts() {
 
 const IndexedToken* TokenIndex::FindIrregular(std::string_view text, TokenNumber after) const {
     const auto found =
-        std::find_if(irregular_.begin(), irregular_.end(), [&](const Irregular& irregular) {
-            return irregular.token->number > after &&
-                   text.find(irregular.piece) != std::string_view::npos;
+        std::find_if(irregular_.begin(), irregular_.end(), [&](const IndexedToken* token) {
+            return token->number > after && text.find(token->longestPiece) != text.npos;
         });
-    return found == irregular_.end() ? nullptr : found->token;
+    return found == irregular_.end() ? nullptr : *found;
 }
 
 bool TokenIndex::MayHoldPlaceholder(std::string_view text) const {

@@ -26,6 +26,7 @@ struct IndexedToken {
     /// placeholder of its own, or the token is no placeholder. Such a token is replaced only while
     /// the line holds placeholders.
     bool dependsOnOrder;
+    std::string_view longestPiece{};          // the longest part without brackets
     const IndexedToken* nextAlike = nullptr;  // the next token of the same text
 };
 
@@ -68,16 +69,12 @@ class TokenIndex {
         std::size_t hash = 0;
         const IndexedToken* token = nullptr;  // the first one with this text
     };
-    struct Irregular {
-        const IndexedToken* token;
-        std::string_view piece;  // the longest one without brackets
-    };
 
     void Add(TokenNumber number, std::u16string_view token, std::u16string_view value);
     std::string_view Store(std::string_view text);
     std::size_t FindSlot(std::string_view token, std::size_t hash) const;
     void AddGroup(IndexedToken& token);
-    void AddIrregular(const IndexedToken& token);
+    void AddIrregular(IndexedToken& token);
     void SortPlaceholderStarts();
 
     TokenNumber upperBound_;
@@ -85,11 +82,10 @@ class TokenIndex {
     std::vector<IndexedToken> tokens_;  // the same holds for these
     std::vector<Slot> slots_;           // a power of two, at least half of them free
     bool hasOtherGroups_ = false;
-    std::vector<Irregular> irregular_;                 // in order
+    std::vector<const IndexedToken*> irregular_;       // in order
     std::vector<std::string_view> loosePieces_;        // of those without a placeholder
     std::vector<std::string_view> placeholderStarts_;  // of the others; sorted, none begins another
     std::vector<TokenNumber> empty_;
-    std::vector<std::uint8_t> encoded_;  // the value at hand
 };
 
 }  // namespace cvlang
