@@ -8,6 +8,7 @@
 
 namespace cvlang {
 
+// NOLINTNEXTLINE(bugprone-easily-swappable-parameters): the order that the operation has always had
 std::string SendHttpRequest(std::u16string_view sServer, std::u16string_view sPath,
                             std::u16string_view sPostData, std::u16string_view sVerb,
                             std::uint16_t port, const std::function<void()>& stillWaiting) {

@@ -96,26 +96,24 @@ bool IsSame(std::u16string_view a, std::u16string_view b) {
 }
 
 /// The reason to refuse a new language; empty when its name and abbreviation are new.
-std::u16string_view ValidateNewLanguage(std::u16string_view list, std::u16string_view name,
-                                        std::u16string_view abbreviation) {
+std::u16string_view ValidateNewLanguage(std::u16string_view list, const Language& added) {
     Lines<char16_t> lines(list);
     for (std::u16string_view line; lines.Next(line);) {
-        if (IsSame(SplitField(line, kTab, 1), name))
+        if (IsSame(SplitField(line, kTab, 1), added.name))
             return u"That language name already exists and cannot be added.";
-        if (IsSame(SplitField(line, kTab, 2), abbreviation))
+        if (IsSame(SplitField(line, kTab, 2), added.abbreviation))
             return u"That language abbreviation already exists and cannot be added.";
     }
     return {};
 }
 
 /// The lines of the list with unchanged bytes, then the new one.
-std::string WithLanguage(std::string_view list, std::u16string_view name,
-                         std::u16string_view abbreviation) {
+std::string WithLanguage(std::string_view list, const Language& added) {
     std::string longer;
     Lines<char> lines(list);
     for (std::string_view line; lines.Next(line);)
         longer.append(line).append(kCrLf);
-    longer += Utf16ToAnsi(name) + "\t" + Utf16ToAnsi(abbreviation);
+    longer += Utf16ToAnsi(added.name) + "\t" + Utf16ToAnsi(added.abbreviation);
     longer += kCrLf;
     return longer;
 }
@@ -129,18 +127,16 @@ void ReplaceByLonger(const std::filesystem::path& file, std::string_view old,
 }
 
 /// Returns the reason to refuse the language; empty when there is none.
-std::u16string AddToList(const std::filesystem::path& file, std::u16string_view name,
-                         std::u16string_view abbreviation, bool& added) {
+std::u16string AddToList(const std::filesystem::path& file, const Language& language, bool& added) {
     const ProcessLock lock(file.parent_path());
     FileContent content;
     if (ReadFile(file, content) != FileStatus::Okay)
         return u"Could not load language file " + TextFromPath(file);
-    const std::u16string_view reason =
-        ValidateNewLanguage(AnsiToUtf16(content.Bytes()), name, abbreviation);
+    const std::u16string_view reason = ValidateNewLanguage(AnsiToUtf16(content.Bytes()), language);
     added = reason.empty();
     if (added)
         ReplaceByLonger(FindExisting(file), content.Bytes(),
-                        WithLanguage(content.Bytes(), name, abbreviation));
+                        WithLanguage(content.Bytes(), language));
     return std::u16string(reason);
 }
 
@@ -172,7 +168,7 @@ bool AddLanguageToBase(Program& program, const Selection& selection, std::u16str
                        std::u16string_view abbreviation) {
     bool added = false;
     const std::u16string reason =
-        AddToList(GetLanguageListFilePath(program.config, selection), name, abbreviation, added);
+        AddToList(GetLanguageListFilePath(program.config, selection), {name, abbreviation}, added);
     if (!reason.empty())
         program.messages.Show({reason, u"Error", MessageButtons::Ok, MessageIcon::Critical});
     return added;

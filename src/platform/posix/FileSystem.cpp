@@ -78,7 +78,7 @@ void Add(const dirent& entry, DIR* folder, FolderListing& listing) {
         isLink = S_ISLNK(status.st_mode);
         if (isLink && fstatat(dirfd(folder), entry.d_name, &status, 0) != 0)
             listing.linkedFiles.emplace_back(name);
-        type = IFTODT(status.st_mode);
+        type = static_cast<unsigned char>(IFTODT(status.st_mode));
     }
     if (type == DT_DIR) {
         (isLink ? listing.linkedFolders : listing.folders).emplace_back(name);
