@@ -54,7 +54,7 @@ TEST(Logs, AppendOneLineEachAndReportAnErrorLogThatCannotBeWritten) {
     EXPECT_TRUE(std::filesystem::remove(ExecutableFolder() / "CVTrans.log"));
 }
 
-TEST(TextHelpers, FieldsAreCountedUpToFiftyAndABetweenNeedsBothMarkers) {
+TEST(TextHelpers, CountFieldsStopsAtFiftyAndGetStringBetweenNeedsBothMarkers) {
     const std::tuple<std::u16string, std::u16string, int, std::u16string> cases[] = {
         {u"a\tb\tc", u"\t", 1, u"a"}, {u"a\tb\tc", u"\t", 3, u"c"}, {u"a\tb\tc", u"\t", 4, u""},
         {u"a\tb\tc", u"\t", 0, u""},  {u"a---b", u"--", 2, u"-b"},  {u"aXbxc", u"x", 2, u"c"}};
