@@ -4,8 +4,6 @@
 #include <emmintrin.h>
 #endif
 
-#include <string>
-
 #include "text/AsciiCase.h"
 
 namespace cvlang {
@@ -92,13 +90,15 @@ Found ScanBlock(const char* text) {
 }  // namespace
 
 void PageScan::Scan(std::string_view page) {
-    hasOnlyCrLf_ = !page.starts_with('\n');
+    bool hasOnlyCrLf = !page.starts_with('\n');
     brackets_.clear();
     scriptTags_.clear();
     const auto noteScriptTag = [&](std::size_t place) {
         const std::size_t start = page[place] == '/' && place > 0 ? place - 1 : place;
-        const std::string tag = ToLowerCase(page.substr(start, kClosingTag.size()));
-        if (tag.starts_with(kOpeningTag) || tag == kClosingTag)
+        const auto isTag = [&](std::string_view tag) {
+            return EndsWithIgnoringCase(page.substr(start, tag.size()), tag);
+        };
+        if (isTag(kOpeningTag) || isTag(kClosingTag))
             scriptTags_.push_back(start);
     };
     std::size_t start = 0;
@@ -109,7 +109,7 @@ void PageScan::Scan(std::string_view page) {
             brackets_.push_back({start, found.brackets});
         for (std::uint64_t bits = found.scriptTags; bits != 0; bits &= bits - 1)
             noteScriptTag(start + static_cast<std::size_t>(std::countr_zero(bits)));
-        hasOnlyCrLf_ = hasOnlyCrLf_ && found.hasOnlyCrLf;
+        hasOnlyCrLf = hasOnlyCrLf && found.hasOnlyCrLf;
     }
 #endif
     for (std::size_t i = start; i < page.size(); ++i) {
@@ -119,10 +119,11 @@ void PageScan::Scan(std::string_view page) {
         if (IsBracket(at(0)))
             brackets_.push_back({i, 1});
         if (at(0).Is('\r') != page.substr(i + 1).starts_with('\n'))
-            hasOnlyCrLf_ = false;
+            hasOnlyCrLf = false;
         if (i + 2 < page.size() && MayBeScriptTag(at(0), at(1), at(2)))
             noteScriptTag(i);
     }
+    hasOnlyCrLf_ = hasOnlyCrLf;
 }
 
 void NormaliseLineEnds(std::string_view page, PageText& normalised) {
