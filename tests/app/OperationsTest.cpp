@@ -1,13 +1,111 @@
-// What the window does behind its buttons, without a display.
+// What the program does without a display: its command line, its servers, and what the window does
+// behind its controls.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
+#include "app/CommandLine.h"
+#include "app/MakerServices.h"
 #include "app/Operations.h"
+#include "platform/Ansi.h"
 #include "support/FakeProgram.h"
 
 namespace cvlang {
 namespace {
 
-TEST(ApplicationDiscovery, BasesAreDetectedByTheirFoldersInAFixedOrder) {
+/// Runs the program on an installation. `arguments` are written as a shell takes them.
+int RunProgram(const std::filesystem::path& installation, const std::string& arguments) {
+    PutFile("registry.reg",
+            "Windows Registry Editor Version 5.00\r\n\r\n"
+            "[HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\Corvane]\r\n"
+            "\"Application Directory\"=\"" +
+                installation.generic_string() + "\"\r\n\"Authoring Version\"=dword:2\r\n");
+    const std::string command = RUN_PROGRAM + arguments + " 2> errors.txt";
+    const int status = std::system(command.c_str());
+    return status > 255 ? status / 256 : status;  // as Linux and as Windows report it
+}
+
+TEST(CommandLine, QuotedFieldsAreTakenByNumber) {
+    const std::pair<std::u16string, std::vector<std::u16string>> cases[] = {
+        {u"WebMail default.net French", {u"", u"WebMail", u"default.net", u"French", u""}},
+        {u"x \"Brazilian Portuguese\"", {u"", u"x", u"Brazilian Portuguese"}},
+        {u"W\"eb M\"ail x", {u"", u"Web Mail", u"x"}},
+        {u"a  b", {u"", u"a", u"", u"b"}},
+        {u" a \"\" c", {u"", u"", u"a", u"", u"c"}},
+        {u"a \"b c", {u"", u"a", u"b c"}},
+        {u"", {u"", u""}}};
+    for (const auto& [text, fields] : cases) {
+        for (std::size_t n = 0; n < fields.size(); ++n)
+            EXPECT_EQ(GetQuotedField(text, u' ', static_cast<int>(n)), fields[n]);
+    }
+}
+
+TEST(ProgramFile, GeneratesOneLanguageFromTheSystemsSettings) {
+    const TemporaryFolder folder;
+    const auto installation = folder / "In stallation";
+    const auto lang = installation / "NETWebMail" / "Zephra" / "lang";
+    PutFile(lang / "SYS" / "Login.aspx", "[CV_TXT-HELLO]\r\n");
+    PutFile(installation / "WebMail-zephra.net-tokens-pt-BR.map",
+            Utf16Bytes(u"[CV_TXT-HELLO]\tOl\u00E1\r\n"));
+    EXPECT_EQ(RunProgram(installation, "WebMail zephra.net \"Brazilian Portuguese\""), 0);
+    EXPECT_EQ(FileBytes(lang / "pt-BR" / "Login.aspx"), "\xEF\xBB\xBFOl\xC3\xA1");
+    EXPECT_EQ(FileBytes("errors.txt"), "");
+}
+
+TEST(ProgramFile, TellsWhatIsWrongByTextAndStatus) {
+    const TemporaryFolder folder;
+    const auto run = [&](const std::string& arguments) {
+        return static_cast<ExitStatus>(RunProgram(folder / "none", arguments));
+    };
+    for (const char* arguments : {"WebMail", "WebMail \"\" French", "\"\" default.net French"}) {
+        EXPECT_EQ(run(arguments), ExitStatus::InvalidArguments);
+        const std::string usage = "CVLangTranslator " PROGRAM_VERSION ", usage: CVLangTranslator ";
+        EXPECT_EQ(FileBytes("errors.txt").substr(0, usage.size()), usage);
+        EXPECT_NE(FileBytes("errors.txt").find("\nInvalid arguments"), std::string::npos);
+    }
+    EXPECT_EQ(run(""), ExitStatus::NoWindow);
+    EXPECT_EQ(run("WebMail default.net"), ExitStatus::Done);  // an empty language is one, too
+    EXPECT_EQ(run(std::string(5000, 'x') + " default.net French"), ExitStatus::Done);
+}
+
+TEST(MakerServices, AreTheBuiltInOnesUnlessTheEnvironmentNamesOthers) {
+    MakerServices services = ConfiguredServices();
+    EXPECT_EQ(services.distribution.host, u"www.corvane.example");
+    EXPECT_EQ(services.distribution.port, 80);
+    EXPECT_EQ(services.submission.server, u"mail.corvane.example");
+    EXPECT_EQ(services.submission.port, 0);
+    EXPECT_EQ(services.submission.mailbox, u"translations@corvane.example");
+    SetVariable("CORVANE_DISTRIBUTION_SERVER", "[::1]:8080");
+    SetVariable("CORVANE_SUBMISSION_SERVER", "mail-2.example:587");
+    services = ConfiguredServices();
+    EXPECT_EQ(services.distribution.host, u"::1");
+    EXPECT_EQ(services.distribution.port, 8080);
+    EXPECT_EQ(services.submission.server, u"mail-2.example");
+    EXPECT_EQ(services.submission.port, 587);
+    EXPECT_EQ(services.distribution.fault + services.submission.fault, u"");
+}
+
+TEST(MakerServices, WhatIsNoServerIsAFaultOfTheService) {
+    for (const std::string text :
+         {"http://host", "host:99999", "host:80x", "host:0", "host:", ":80", "a b", "::1", "[::1",
+          "[::1]80", "[::1]:", "[host]", "[]", "host/path", "user@host", "host:80:80"}) {
+        SetVariable("CORVANE_DISTRIBUTION_SERVER", text);
+        SetVariable("CORVANE_SUBMISSION_SERVER", text);
+        const MakerServices services = ConfiguredServices();
+        EXPECT_EQ(services.distribution.fault,
+                  u'"' + AnsiToUtf16(text) +
+                      u"\" is not the address of a server. Please set CORVANE_DISTRIBUTION_SERVER "
+                      u"to HOST or HOST:PORT, an IPv6 address in brackets.");
+        EXPECT_NE(services.submission.fault, u"") << text;
+    }
+    SetVariable("CORVANE_DISTRIBUTION_SERVER", "[2001:db8::2]");
+    SetVariable("CORVANE_SUBMISSION_SERVER", "[::1]:25");
+    EXPECT_EQ(ConfiguredServices().distribution.host, u"2001:db8::2");
+    EXPECT_EQ(ConfiguredServices().distribution.port, 80);
+    EXPECT_NE(ConfiguredServices().submission.fault, u"");  // mail is sent over IPv4 only
+}
+
+TEST(Operations, BasesAreDetectedByTheirFoldersInAFixedOrder) {
     const FakeProgram fake;
     EXPECT_TRUE(DetectBases(fake.config, kProbedApplication).empty());
     for (const char* name : {"Kesto", "zephra", "ENTERPRISE", "other", "default"})
@@ -17,7 +115,7 @@ TEST(ApplicationDiscovery, BasesAreDetectedByTheirFoldersInAFixedOrder) {
                                            u"kesto.net"}));
 }
 
-TEST(TokenSearch, GoesOnBehindTheSelectedEntryAndLooksAtItLast) {
+TEST(Operations, GoesOnBehindTheSelectedEntryAndLooksAtItLast) {
     const std::vector<std::u16string> entries{u"[CV_A]: \u00C9t\u00E9", u"[CV_B]: b", u"[CV_C]: a"};
     const std::tuple<std::optional<std::size_t>, std::u16string, std::optional<std::size_t>>
         cases[] = {{std::nullopt, u"[cv_", 0}, {0, u"[cv_", 1},   {2, u"[cv_", 0},
@@ -26,7 +124,7 @@ TEST(TokenSearch, GoesOnBehindTheSelectedEntryAndLooksAtItLast) {
         EXPECT_EQ(FindEntry(entries, selected, text), found);
 }
 
-TEST(TokenSearch, ATokenIsUntranslatedWhileItsFirstLineHasNoValue) {
+TEST(Operations, ATokenIsUntranslatedWhileItsFirstLineHasNoValue) {
     const FakeProgram fake;
     PutFile("WebMail-default.net-tokens-fr.map",
             Utf16Bytes(u"[CV_A]\ta\r\n[CV_B]\t\r\n[CV_B]\tlater\r\n[CV_D]\td"));
@@ -44,24 +142,16 @@ struct CountingProgress : Progress {
     int ended = 0;
 };
 
-TEST(ApplyCommand, GeneratesRecordsTheLanguageAndReportsSuccessInAnyCase) {
+TEST(Operations, ApplyingRecordsTheLanguageAndReportsSuccessInAnyCase) {
     FakeProgram fake;
     CountingProgress progress;
     fake.program.progress = &progress;
-    PutFile("NETWebMail/default/lang/SYS/a.asp", "[CV_TXT-A]");
-    PutFile("WebMail-default.net-tokens-fr.map", Utf16Bytes(u"[CV_TXT-A]\ta"));
-    GenerateLanguage(fake.program, {u"WebMail", u"default.net", u"French"});
-    EXPECT_EQ(FileBytes("NETWebMail/default/lang/fr/a.asp"),
-              "\xEF\xBB\xBF"
-              "a");
-    GenerateLanguage(fake.program,
-                     {u"WebMail", u"default.net", u"Klingon"});  // has no abbreviation
+    for (const char16_t* language : {u"French", u"Klingon"})  // the second has no abbreviation
+        GenerateLanguage(fake.program, {u"WebMail", u"default.net", language});
     EXPECT_EQ(FileBytes("LANGUAGES.TAB"), Utf16Bytes(u"fr\tFrench\r\n"));
     EXPECT_EQ(progress.begun, 2);
     EXPECT_EQ(progress.ended, 2);
-    ASSERT_EQ(fake.messages.shown.size(), 2U);
-    EXPECT_EQ(fake.messages.shown[1].text,
-              u"Translated web pages were generated sucessfully for Klingon language.");
+    EXPECT_EQ(fake.messages.shown.size(), 2U);
 }
 
 }  // namespace

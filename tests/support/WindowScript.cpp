@@ -2,9 +2,12 @@
 
 #include <wx/app.h>
 #include <wx/display.h>
+#include <wx/init.h>
+#include <wx/log.h>
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
 #include <wx/stattext.h>
+#include <wx/stopwatch.h>
 #include <wx/utils.h>
 
 #include <algorithm>
@@ -33,30 +36,6 @@ wxWindow* FindBelow(wxWindow& parent, const wxString& text) {
     return nullptr;
 }
 
-[[noreturn]] void Miss(const wxString& text, const wxWindow& window) {
-    const wxString where = window.GetLabel().empty() ? window.GetName() : window.GetLabel();
-    throw std::runtime_error(wxString("There is no \"" + text + "\" in " + where).utf8_string());
-}
-
-wxMenuItem* FindEntry(const wxMenuBar& bar, const wxString& menu, const wxString& entry) {
-    const int position = bar.FindMenu(menu);
-    if (position == wxNOT_FOUND)
-        return nullptr;
-    for (wxMenuItem* item : bar.GetMenu(static_cast<std::size_t>(position))->GetMenuItems()) {
-        if (item->GetItemLabelText() == entry && item->IsEnabled())
-            return item;
-    }
-    return nullptr;
-}
-
-/// Gives the toolkit and the display the time to draw.
-void Draw() {
-    for (int i = 0; i < 20; ++i) {
-        wxMilliSleep(10);
-        Settle();
-    }
-}
-
 void RunIn(wxDialog& dialog, const std::function<void(wxDialog&)>& actions) {
     try {
         actions(dialog);
@@ -69,13 +48,34 @@ void RunIn(wxDialog& dialog, const std::function<void(wxDialog&)>& actions) {
     }
 }
 
+void FailTheTest(const wxString& file, int line, const wxString& /*function*/,
+                 const wxString& condition, const wxString& message) {
+    ADD_FAILURE_AT(file.utf8_str(), line) << condition << " " << message;
+}
+
+class TestApp : public wxApp {
+  public:
+    bool OnInit() override {
+        wxSetAssertHandler(FailTheTest);
+        delete wxLog::SetActiveTarget(new wxLogStderr);
+        return true;
+    }
+    int OnRun() override {
+        // Modal windows of a test must not end the application when they close.
+        SetExitOnFrameDelete(false);
+        return RUN_ALL_TESTS();
+    }
+};
+
 }  // namespace
 
-void Settle() {
-    for (int i = 0; i < 3; ++i) {
+void Settle(int milliseconds) {
+    const wxStopWatch time;
+    do {
         wxTheApp->Yield();
         wxTheApp->ProcessPendingEvents();
-    }
+        wxMilliSleep(milliseconds == 0 ? 0 : 5);
+    } while (time.Time() < milliseconds);
 }
 
 wxWindow& FindByText(wxWindow& parent, const wxString& text) {
@@ -83,7 +83,7 @@ wxWindow& FindByText(wxWindow& parent, const wxString& text) {
     if (found == nullptr)
         found = wxWindow::FindWindowByName(text, &parent);
     if (found == nullptr)
-        Miss(text, parent);
+        throw std::runtime_error("There is no " + text.utf8_string());
     return *found;
 }
 
@@ -99,10 +99,9 @@ void Press(wxWindow& parent, const wxString& button) {
 }
 
 void Choose(wxFrame& frame, const wxString& menu, const wxString& entry) {
-    const wxMenuItem* item = FindEntry(*frame.GetMenuBar(), menu, entry);
-    if (item == nullptr)
-        Miss(menu + " > " + entry, frame);
-    wxCommandEvent event(wxEVT_MENU, item->GetId());
+    const int id = frame.GetMenuBar()->FindMenuItem(menu, entry);
+    EXPECT_NE(id, wxNOT_FOUND) << menu << " > " << entry;
+    wxCommandEvent event(wxEVT_MENU, id);
     frame.ProcessWindowEvent(event);
     Settle();
 }
@@ -110,14 +109,11 @@ void Choose(wxFrame& frame, const wxString& menu, const wxString& entry) {
 void Pick(wxWindow& parent, const wxString& list, const std::u16string& entry) {
     auto& picked = Find<SelectionList>(parent, list);
     const auto& entries = picked.Entries();
-    const auto found = std::find(entries.begin(), entries.end(), entry);
-    if (found == entries.end())
-        Miss(ToWx(entry), picked);
+    const auto found = std::find(entries.begin(), entries.end(), entry) - entries.begin();
+    ASSERT_LT(found, picked.GetCount()) << ToWx(entry);
+    picked.SetSelection(static_cast<int>(found));
     wxCommandEvent event(wxEVT_LISTBOX, picked.GetId());
-    event.SetInt(static_cast<int>(found - entries.begin()));
-    event.SetExtraLong(1);  // selected, not deselected
-    event.SetEventObject(&picked);
-    picked.Command(event);
+    picked.ProcessWindowEvent(event);
     Settle();
 }
 
@@ -127,7 +123,7 @@ void Type(wxWindow& parent, const wxString& box, const std::u16string& text) {
 }
 
 wxImage ScreenPixels(const wxRect& place) {
-    Draw();
+    Settle(200);
     // GTK itself would give the first picture again.
     const wxString command =
         wxString::Format("import -window root -crop %dx%d+%d+%d +repage bmp3:screen", place.width,
@@ -136,14 +132,13 @@ wxImage ScreenPixels(const wxRect& place) {
     return {"screen", wxBITMAP_TYPE_BMP};
 }
 
-double ShareOfDark(const wxImage& picture) {
-    constexpr unsigned char kDark = 100;
-    int dark = 0;
+double Share(const wxImage& picture, bool (*counts)(int red, int blue)) {
+    int counted = 0;
     for (int y = 0; y < picture.GetHeight(); ++y) {
         for (int x = 0; x < picture.GetWidth(); ++x)
-            dark += picture.GetRed(x, y) < kDark && picture.GetBlue(x, y) < kDark ? 1 : 0;
+            counted += counts(picture.GetRed(x, y), picture.GetBlue(x, y)) ? 1 : 0;
     }
-    return static_cast<double>(dark) / (picture.GetWidth() * picture.GetHeight());
+    return static_cast<double>(counted) / (picture.GetWidth() * picture.GetHeight());
 }
 
 WindowScript::~WindowScript() {
@@ -192,3 +187,11 @@ int WindowScript::Enter(wxDialog* dialog) {
 }
 
 }  // namespace cvlang
+
+// Tests that show windows run inside the toolkit's own application.
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    wxApp::SetInstance(new cvlang::TestApp);
+    int count = 1;
+    return wxEntry(count, argv);
+}

@@ -25,8 +25,8 @@ inline void PrintTo(const wxString& text, std::ostream* out) {
 
 namespace cvlang {
 
-/// Lets the toolkit process everything that is waiting.
-void Settle();
+/// Lets the toolkit process everything that is waiting, or comes within this time.
+void Settle(int milliseconds = 0);
 
 /// A visible control in a window: a button by its caption, another one by the label before it, one
 /// without either by its name. Throws when there is none.
@@ -51,8 +51,12 @@ void Type(wxWindow& parent, const wxString& box, const std::u16string& text);
 
 /// What the screen shows at a place.
 wxImage ScreenPixels(const wxRect& place);
-/// How much of a picture is black or nearly so, as texts are: from 0 to 1.
-double ShareOfDark(const wxImage& picture);
+/// How much of a picture has colours that count: from 0 to 1.
+double Share(const wxImage& picture, bool (*counts)(int red, int blue));
+/// Black or nearly so, as texts are.
+inline bool IsDark(int red, int blue) {
+    return red < 100 && blue < 100;
+}
 
 /// Stands by while windows wait for the user. Each box and dialog must have been foreseen, in
 /// order; one that was not is closed and fails the test, as does one that does not come.
