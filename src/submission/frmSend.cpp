@@ -1,6 +1,5 @@
 #include "submission/frmSend.h"
 
-#include <wx/app.h>
 #include <wx/button.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
@@ -110,7 +109,7 @@ void frmSend::Open(const std::vector<std::filesystem::path>& files) {
 void frmSend::Attach(const std::vector<std::filesystem::path>& files) {
     MailEnvironment environment;
     environment.clock = target_.clock;
-    environment.processPendingEvents = [] { wxTheApp->Yield(true); };
+    environment.processPendingEvents = RepaintWindows;
     environment.beforeCommand = [this] { program_.progress->Step(); };
     message_ = std::make_unique<Message>(program_.config, program_.logs, std::move(environment));
     std::u16string names;

@@ -1,5 +1,6 @@
 #include "widgets/Layout.h"
 
+#include <wx/app.h>
 #include <wx/button.h>
 #include <wx/stattext.h>
 
@@ -51,6 +52,11 @@ void AddDialogButtons(wxDialog& dialog, wxSizer& column, wxButton* action, wxBut
 void FitDialog(wxDialog& dialog) {
     dialog.GetSizer()->SetSizeHints(&dialog);
     dialog.CentreOnParent();
+}
+
+// Not where mail is sent: on Windows this header makes SendMessage a macro.
+void RepaintWindows() {
+    wxTheApp->Yield(true);
 }
 
 }  // namespace cvlang

@@ -44,4 +44,7 @@ void AddDialogButtons(wxDialog& dialog, wxSizer& column, wxButton* action, wxBut
 /// The smallest size at which nothing is cut.
 void FitDialog(wxDialog& dialog);
 
+/// Lets windows repaint. To be called only while none takes input.
+void RepaintWindows();
+
 }  // namespace cvlang
