@@ -28,7 +28,6 @@ SocketHandle OpenTcpSocket() {
     return static_cast<SocketHandle>(socket(AF_INET, kSocketType, IPPROTO_TCP));
 }
 
-// NOLINTNEXTLINE(bugprone-easily-swappable-parameters): handle, address and port, as everywhere
 int ConnectSocket(SocketHandle socket, const std::string& address, std::uint16_t port) {
     const auto native = static_cast<NativeSocket>(socket);
     sockaddr_in peer{};
