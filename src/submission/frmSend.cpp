@@ -28,6 +28,7 @@ wxSizer& AddFields(const wxWindow& window, wxSizer& column) {
     return *fields;
 }
 
+// NOLINTNEXTLINE(bugprone-easily-swappable-parameters): as everywhere, the label comes first
 TextBox* AddField(wxWindow& parent, wxSizer& fields, const char* labelName, const char* caption,
                   const char* name) {
     auto* label = new wxStaticText(&parent, wxID_ANY, caption);

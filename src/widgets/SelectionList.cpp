@@ -85,7 +85,7 @@ void SelectionList::OnLetter(wxKeyEvent& event) {
         return;
     }
     const std::u16string wanted = ToUpper(FromWx(letter));
-    const auto start = static_cast<std::size_t>(GetSelection() + 1);
+    const auto start = static_cast<std::size_t>(GetSelection()) + 1;
     for (std::size_t i = 0; i < entries_.size(); ++i) {
         const std::size_t index = (start + i) % entries_.size();
         if (ToUpper(std::u16string_view(entries_[index]).substr(0, wanted.size())) == wanted) {

@@ -74,14 +74,14 @@ void TextBox::OnChanged() {
     if (value == current_)
         return;
     if (IsTooLong(value)) {
-        Show(current_, GetInsertionPoint());
+        Restore(current_, GetInsertionPoint());
         wxBell();
         return;
     }
     // Text can come in otherwise than by pasting: dropped, or with the middle button.
     if (!IsMultiLine() && value != OnOneLine(value)) {
         value = OnOneLine(value);
-        Show(value, GetInsertionPoint());
+        Restore(value, GetInsertionPoint());
     }
     if (earlier_.empty() || !ContinuesWord(current_, value))
         earlier_.push_back(current_);
@@ -116,7 +116,7 @@ bool TextBox::IsTooLong(const wxString& text) const {
     return !IsMultiLine() && text.utf8_str().length() > kMostBytes;
 }
 
-void TextBox::Show(const wxString& text, long position) {
+void TextBox::Restore(const wxString& text, long position) {
     ChangeValue(text);
     SetInsertionPoint(std::min(position, GetLastPosition()));
 }

@@ -33,7 +33,7 @@ class TextBox : public wxTextCtrl {
     void OnPaste(wxClipboardTextEvent& event);
     void OnKey(wxKeyEvent& event);
     bool IsTooLong(const wxString& text) const;
-    void Show(const wxString& text, long position);
+    void Restore(const wxString& text, long position);
     void Step(std::vector<wxString>& from, std::vector<wxString>& to);
 
     std::u16string loaded_;

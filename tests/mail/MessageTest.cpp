@@ -227,9 +227,10 @@ TEST(SmtpDialogue, EveryReplyLeadsToItsConversation) {
         EXPECT_EQ(message.SendMessage(), outcome.starts_with("Sent") ? 1 : 0);
         EXPECT_EQ(message.ErrorString, outcome);
         EXPECT_EQ(message.FailedRecipients, failed);
-        std::string log = failed.empty() ? "" : failed + ",";
-        log = std::regex_replace(log, std::regex("([^,]*),"), kRefused + "$1\n");
-        EXPECT_EQ(delivery.Log(), log + outcome + "\n");
+        const std::string refused = failed.empty() ? "" : failed + ",";
+        std::string log = std::regex_replace(refused, std::regex("([^,]*),"), kRefused + "$1\n");
+        log += outcome + "\n";
+        EXPECT_EQ(delivery.Log(), log);
         EXPECT_EQ(delivery.Conversation(), conversation);
         EXPECT_EQ(delivery.eventsProcessed, 1);
     }
