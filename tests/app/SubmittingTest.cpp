@@ -50,16 +50,16 @@ TEST_F(Submitting, SendsWhatTheUserSeesOnceHeAgrees) {
         auto& body = Find<wxTextCtrl>(dialog, "txtBody");
         EXPECT_TRUE(body.GetValue().StartsWith("Dear Support Team,"));
         body.SetValue("a\n\nb");
-        Send(dialog, u"t@y", u"f@");
-        EXPECT_EQ(wxWindow::FindFocus()->GetName(), "txtFrom");
-        EXPECT_EQ(Find<TextBox>(dialog, "From:").GetStringSelection(), "f@");
+        Send(dialog, u"t@", u"f@x");
+        EXPECT_EQ(wxWindow::FindFocus()->GetName(), "txtTo");
+        EXPECT_EQ(Find<TextBox>(dialog, "To:").GetStringSelection(), "t@");
         Send(dialog, u"t@y", u"f@x");
         EXPECT_TRUE(dialog.IsShown());
         Press(dialog, "Send");
     });
     script_.ExpectBox("Invalid Address",
-                      "Invalid sender address. Please specify a valid email address for the 'From' "
-                      "field.",
+                      "Invalid recipient address. Please specify a valid email address for the "
+                      "'To' field.",
                       wxOK | wxICON_EXCLAMATION);
     ExpectQuestion(wxID_NO);
     ExpectQuestion(wxID_YES);
