@@ -1,7 +1,7 @@
 #include "mail/HeaderValues.h"
 
 #include "fuzz/Fuzz.h"
-#include "text/AsciiCase.h"
+#include "text/Strings.h"
 
 void cvlang::Try(std::string_view input) {
     const char separator = input.find(';') == input.npos ? ',' : ';';

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "support/FakeProgram.h"
-#include "text/Lines.h"
+#include "text/Strings.h"
 
 namespace cvlang {
 

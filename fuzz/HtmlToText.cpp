@@ -1,7 +1,7 @@
 #include "mail/HtmlToText.h"
 
 #include "fuzz/Fuzz.h"
-#include "text/AsciiCase.h"
+#include "text/Strings.h"
 
 void cvlang::Try(std::string_view input) {
     const std::string text = HTMLToText(input, LineBreaks::Kept);

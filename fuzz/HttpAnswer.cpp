@@ -7,7 +7,7 @@
 #include "download/TokenFileFetch.h"
 #include "fuzz/Fuzz.h"
 #include "support/LoopbackPeer.h"
-#include "text/AsciiCase.h"
+#include "text/Strings.h"
 
 namespace cvlang {
 namespace {

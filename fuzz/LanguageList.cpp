@@ -1,5 +1,5 @@
 // The first line is the language to be added, its abbreviation behind a TAB.
-#include "translation/LanguageList.h"
+#include "translation/Languages.h"
 
 #include "fuzz/Fuzz.h"
 #include "platform/Ansi.h"

@@ -6,9 +6,7 @@
 #include "generation/ContentTree.h"
 #include "platform/Ansi.h"
 #include "platform/FileSystem.h"
-#include "platform/Paths.h"
-#include "translation/LanguageList.h"
-#include "translation/LanguageTable.h"
+#include "translation/Languages.h"
 #include "translation/TokenEditing.h"
 #include "translation/TokenMapFile.h"
 

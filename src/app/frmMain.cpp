@@ -9,7 +9,7 @@
 #include "app/frmAddLanguage.h"
 #include "app/frmAddToken.h"
 #include "submission/frmSend.h"
-#include "translation/LanguageList.h"
+#include "translation/Languages.h"
 #include "translation/StorePaths.h"
 #include "translation/TokenEditing.h"
 #include "translation/TokenMapFile.h"

@@ -2,7 +2,7 @@
 
 #include <exception>
 
-#include "platform/Paths.h"
+#include "platform/FileSystem.h"
 #include "text/Strings.h"
 
 namespace cvlang {

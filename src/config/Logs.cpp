@@ -5,7 +5,6 @@
 
 #include "platform/Ansi.h"
 #include "platform/FileSystem.h"
-#include "platform/Paths.h"
 
 namespace cvlang {
 

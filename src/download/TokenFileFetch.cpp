@@ -3,9 +3,8 @@
 #include <filesystem>
 
 #include "platform/FileSystem.h"
-#include "platform/Paths.h"
-#include "platform/ProcessLock.h"
-#include "translation/LanguageList.h"
+#include "platform/Process.h"
+#include "translation/Languages.h"
 #include "translation/StorePaths.h"
 
 namespace cvlang {

@@ -7,9 +7,8 @@
 #include "platform/Ansi.h"
 #include "platform/FileCopy.h"
 #include "platform/FileSystem.h"
-#include "platform/Paths.h"
-#include "platform/ProcessLock.h"
-#include "text/AsciiCase.h"
+#include "platform/Process.h"
+#include "text/Strings.h"
 #include "translation/StorePaths.h"
 #include "translation/TokenMapFile.h"
 

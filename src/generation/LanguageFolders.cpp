@@ -2,8 +2,7 @@
 
 #include "platform/Ansi.h"
 #include "platform/FileSystem.h"
-#include "platform/Paths.h"
-#include "translation/LanguageList.h"
+#include "translation/Languages.h"
 #include "translation/StorePaths.h"
 
 namespace cvlang {

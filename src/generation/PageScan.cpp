@@ -4,7 +4,7 @@
 #include <emmintrin.h>
 #endif
 
-#include "text/AsciiCase.h"
+#include "text/Strings.h"
 
 namespace cvlang {
 namespace {

@@ -3,8 +3,8 @@
 #include <new>
 
 #include "platform/Ansi.h"
-#include "platform/Paths.h"
-#include "text/AsciiCase.h"
+#include "platform/FileSystem.h"
+#include "text/Strings.h"
 
 namespace cvlang {
 namespace {

@@ -8,7 +8,6 @@
 
 #include "config/Configuration.h"
 #include "platform/Ansi.h"
-#include "text/AsciiCase.h"
 #include "text/Strings.h"
 
 namespace cvlang {

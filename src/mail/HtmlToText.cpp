@@ -1,6 +1,5 @@
 #include "mail/HtmlToText.h"
 
-#include "text/AsciiCase.h"
 #include "text/Strings.h"
 
 namespace cvlang {

@@ -9,7 +9,6 @@
 #include "mail/SmtpDialogue.h"
 #include "platform/Ansi.h"
 #include "platform/FileSystem.h"
-#include "platform/Paths.h"
 #include "text/Strings.h"
 
 namespace cvlang {

@@ -7,8 +7,6 @@
 #include "mail/HeaderValues.h"
 #include "mail/HtmlToText.h"
 #include "platform/FileSystem.h"
-#include "platform/Paths.h"
-#include "text/AsciiCase.h"
 #include "text/Strings.h"
 
 namespace cvlang {

@@ -5,6 +5,16 @@
 
 namespace cvlang {
 
+std::u16string JoinedPath(std::initializer_list<std::u16string_view> parts) {
+    std::u16string path;
+    for (const std::u16string_view& part : parts) {
+        if (&part != parts.begin())
+            path += kSeparator;
+        path += part;
+    }
+    return path;
+}
+
 void FileContent::Reserve(std::size_t capacity) {
     if (capacity <= capacity_)
         return;

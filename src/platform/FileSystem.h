@@ -1,16 +1,40 @@
-// Files and folders, where Windows and Linux differ: attributes, letter case, links.
+// Paths, files and folders, where Windows and Linux differ: text, attributes, letter case, links.
 //
 // Readers (ReadFile, EntryExists) find an entry whose name differs only in letter case. Writers and
 // listings take the exact path: pass it through FindExisting first where such an entry may exist.
 #pragma once
 
 #include <filesystem>
+#include <initializer_list>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <system_error>
 #include <vector>
 
 namespace cvlang {
+
+/// The separator of the system's paths: "\" on Windows, "/" on Linux.
+inline constexpr auto kSeparator =
+    static_cast<char16_t>(std::filesystem::path::preferred_separator);
+
+/// The parts joined by separators. Deliberate: an empty part leaves two separators in a row.
+std::u16string JoinedPath(std::initializer_list<std::u16string_view> parts);
+
+/// The path of a UTF-16 text; on Linux in UTF-8, in any locale. A NUL, which would end the path for
+/// the system, becomes U+FFFD.
+std::filesystem::path PathFromText(std::u16string_view text);
+
+/// The UTF-16 text of a path.
+std::u16string TextFromPath(const std::filesystem::path& path);
+
+/// The path of the entry that Windows would find. In each folder the exact name is taken, otherwise
+/// one that differs only in letter case. From the first missing name on, the path is unchanged. On
+/// Windows the whole path is.
+std::filesystem::path FindExisting(const std::filesystem::path& path);
+
+/// The folder of the program's executable, without a separator at its end; empty when unknown.
+std::filesystem::path ExecutableFolder();
 
 /// An open folder. Its files are reached by name, which is faster than resolving the whole path for
 /// each of them.

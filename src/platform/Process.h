@@ -1,6 +1,8 @@
-// The process: its command line, environment, limits, standard error and modules.
+// The process: its command line, environment, limits, standard error, modules, and its lock.
 #pragma once
 
+#include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -30,5 +32,18 @@ void WriteErrorLine(std::u16string_view text);
 /// The address of a symbol in a shared module, which is searched for like the program's libraries.
 /// Null when module or symbol is missing; `reason` is then the system's. On Linux only.
 void* FindInModule(const char* module, const char* symbol, std::u16string& reason);
+
+/// Keeps two processes of this program from changing the same files at the same time. Held while
+/// the files of an installation are changed. The lock is advisory and creates no file. A process
+/// that waits for five seconds, or cannot lock, continues without it. A process must not hold two
+/// of them.
+class ProcessLock {
+  public:
+    /// Waits until no other process holds the lock of this folder.
+    explicit ProcessLock(const std::filesystem::path& folder);
+
+  private:
+    std::shared_ptr<void> held_;  // a directory on Linux, a mutex on Windows
+};
 
 }  // namespace cvlang

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "platform/FileSystem.h"
-#include "platform/Paths.h"
 #include "text/Strings.h"
 #include "translation/StorePaths.h"
 

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "platform/Ansi.h"
-#include "platform/Paths.h"
+#include "platform/FileSystem.h"
 #include "widgets/Layout.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/NativeControls.h"

@@ -4,9 +4,8 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/Paths.h"
-#include "platform/ProcessLock.h"
-#include "text/Lines.h"
+#include "platform/FileSystem.h"
+#include "platform/Process.h"
 #include "text/Strings.h"
 
 namespace cvlang {

@@ -1,7 +1,7 @@
 #include "translation/StorePaths.h"
 
-#include "platform/Paths.h"
-#include "translation/LanguageList.h"
+#include "platform/FileSystem.h"
+#include "translation/Languages.h"
 
 namespace cvlang {
 namespace {

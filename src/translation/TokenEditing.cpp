@@ -4,11 +4,9 @@
 
 #include "platform/Ansi.h"
 #include "platform/FileSystem.h"
-#include "platform/Paths.h"
-#include "platform/ProcessLock.h"
-#include "text/Lines.h"
+#include "platform/Process.h"
 #include "text/Strings.h"
-#include "translation/LanguageList.h"
+#include "translation/Languages.h"
 #include "translation/StorePaths.h"
 #include "translation/TokenMapFile.h"
 

@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "text/Lines.h"
 #include "text/Strings.h"
-#include "translation/LanguageList.h"
+#include "translation/Languages.h"
 #include "translation/StorePaths.h"
 
 namespace cvlang {

@@ -12,7 +12,7 @@
 #include <filesystem>
 #include <utility>
 
-#include "platform/Paths.h"
+#include "platform/FileSystem.h"
 #include "platform/SystemMessageBox.h"
 #include "widgets/Text.h"
 

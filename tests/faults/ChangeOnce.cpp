@@ -2,7 +2,7 @@
 #include <csignal>
 
 #include "support/FakeProgram.h"
-#include "translation/LanguageList.h"
+#include "translation/Languages.h"
 #include "translation/StorePaths.h"
 #include "translation/TokenEditing.h"
 

@@ -10,7 +10,7 @@
 
 #include "generation/PageScan.h"
 #include "platform/Ansi.h"
-#include "text/AsciiCase.h"
+#include "text/Strings.h"
 #include "text/Unicode.h"
 #include "translation/TokenMapFile.h"
 

@@ -6,8 +6,8 @@
 #include <thread>
 
 #include "platform/Ansi.h"
-#include "platform/Paths.h"
-#include "platform/ProcessLock.h"
+#include "platform/FileSystem.h"
+#include "platform/Process.h"
 #include "support/Files.h"
 #include "text/Unicode.h"
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Paths.h"
+#include "platform/FileSystem.h"
 #include "run/Program.h"
 #include "support/Files.h"
 

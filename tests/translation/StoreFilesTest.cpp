@@ -3,10 +3,8 @@
 
 #include "platform/Ansi.h"
 #include "support/FakeProgram.h"
-#include "text/Lines.h"
 #include "text/Strings.h"
-#include "translation/LanguageList.h"
-#include "translation/LanguageTable.h"
+#include "translation/Languages.h"
 #include "translation/StoreFile.h"
 #include "translation/TokenEditing.h"
 #include "translation/TokenMapFile.h"

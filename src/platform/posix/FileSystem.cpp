@@ -12,15 +12,19 @@
 #include <unordered_set>
 
 #include "platform/Ansi.h"
-#include "platform/Paths.h"
 #include "platform/posix/Descriptor.h"
-#include "text/AsciiCase.h"
+#include "text/Strings.h"
 #include "text/Unicode.h"
 
 namespace cvlang {
 namespace {
 
 namespace fs = std::filesystem;
+
+bool IsOnDisk(const fs::path& path) {
+    struct stat status {};
+    return lstat(path.c_str(), &status) == 0;
+}
 
 bool IsFolder(const fs::path& path) {
     std::error_code ignored;
@@ -106,6 +110,38 @@ std::u16string Capitals(const std::string& name) {
 }
 
 }  // namespace
+
+fs::path PathFromText(std::u16string_view text) {
+    std::u16string path(text);
+    std::replace(path.begin(), path.end(), u'\0', u'\uFFFD');
+    return Utf16ToUtf8(path);
+}
+
+std::u16string TextFromPath(const fs::path& path) {
+    return Utf8ToUtf16(path.native());
+}
+
+fs::path FindExisting(const fs::path& path) {
+    if (IsOnDisk(path))
+        return path;
+    fs::path found;
+    bool missing = false;
+    for (const fs::path& part : path) {
+        if (!missing && !IsOnDisk(found / part)) {
+            const EntryName entry = EntryNames(found.empty() ? "." : found).Find(part);
+            missing = !entry.exists;
+            found /= entry.name;
+        } else {
+            found /= part;
+        }
+    }
+    return found;
+}
+
+fs::path ExecutableFolder() {
+    std::error_code ignored;
+    return fs::read_symlink("/proc/self/exe", ignored).parent_path();
+}
 
 Folder::Folder(const fs::path& path)
     : path_(path), descriptor_(Open(Place(path), O_PATH | O_DIRECTORY)) {}

@@ -10,7 +10,7 @@
 #include <stdexcept>
 
 #include "platform/Process.h"
-#include "text/AsciiCase.h"
+#include "text/Strings.h"
 #include "text/Unicode.h"
 
 namespace cvlang {

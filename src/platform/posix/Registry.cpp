@@ -2,7 +2,6 @@
 #include <filesystem>
 
 #include "platform/FileSystem.h"
-#include "platform/Paths.h"
 #include "platform/Registry.h"
 #include "platform/posix/RegistryExport.h"
 

@@ -46,6 +46,28 @@ bool PrecedesInDirectoryWindow(const fs::path& a, const fs::path& b) {
 
 }  // namespace
 
+fs::path PathFromText(std::u16string_view text) {
+    std::wstring path(text.begin(), text.end());
+    std::replace(path.begin(), path.end(), L'\0', L'\uFFFD');
+    return path;
+}
+
+std::u16string TextFromPath(const fs::path& path) {
+    // Not u16string(), which refuses lone surrogates.
+    return {path.native().begin(), path.native().end()};
+}
+
+fs::path FindExisting(const fs::path& path) {
+    return path;
+}
+
+fs::path ExecutableFolder() {
+    std::wstring file(32768, L'\0');
+    const DWORD length = GetModuleFileNameW(nullptr, file.data(), static_cast<DWORD>(file.size()));
+    file.resize(length);
+    return fs::path(file).parent_path();
+}
+
 std::wstring LongPath(const fs::path& path) {
     constexpr std::size_t kShort = 240;  // a folder's path must leave room for an 8.3 name
     const std::wstring& text = path.native();

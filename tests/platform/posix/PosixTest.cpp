@@ -7,7 +7,6 @@
 
 #include "platform/Ansi.h"
 #include "platform/FileSystem.h"
-#include "platform/Paths.h"
 #include "platform/Process.h"
 #include "platform/Registry.h"
 #include "platform/SystemInformation.h"

@@ -1,5 +1,11 @@
-// Language list files: the languages of an application base. Each line is name TAB abbreviation, in
-// the ANSI code page. The abbreviation is part of the names of a language's files and folders.
+// Languages, in two kinds of files.
+//
+// - A language list file has the languages of an application base. Each line is name TAB
+//   abbreviation, in the ANSI code page. The abbreviation is part of the names of a language's
+//   files and folders.
+//
+// - LANGUAGES.TAB, the language table, has the languages whose pages were generated, for all
+//   applications. Each line is abbreviation TAB name, with one line per abbreviation.
 #pragma once
 
 #include <string>
@@ -33,5 +39,10 @@ std::vector<std::u16string> LoadLanguageList(const Configuration& config,
 /// Throws filesystem_error when the file cannot be written. The file is then unchanged.
 bool AddLanguageToBase(Program& program, const Selection& selection, std::u16string_view name,
                        std::u16string_view abbreviation);
+
+/// Records in the language table that pages of the language exist. Deliberate: the application is
+/// ignored.
+void UpdateLanguageTable(const Program& program, std::u16string_view application,
+                         std::u16string_view LangName, std::u16string_view abbreviation);
 
 }  // namespace cvlang

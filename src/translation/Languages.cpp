@@ -1,10 +1,8 @@
-#include "translation/LanguageList.h"
+#include "translation/Languages.h"
 
 #include "platform/Ansi.h"
 #include "platform/FileSystem.h"
-#include "platform/Paths.h"
-#include "platform/ProcessLock.h"
-#include "text/Lines.h"
+#include "platform/Process.h"
 #include "text/Strings.h"
 #include "translation/StoreFile.h"
 #include "translation/StorePaths.h"
@@ -172,6 +170,13 @@ bool AddLanguageToBase(Program& program, const Selection& selection, std::u16str
     if (!reason.empty())
         program.messages.Show({reason, u"Error", MessageButtons::Ok, MessageIcon::Critical});
     return added;
+}
+
+void UpdateLanguageTable(const Program& program, std::u16string_view /*application*/,
+                         std::u16string_view LangName, std::u16string_view abbreviation) {
+    const std::u16string directory = program.config.GetApplicationDirectory();
+    RewriteKeyedLine({LanguageTableFile(directory), TemporaryLanguageTableFile(directory)},
+                     abbreviation, LangName, program.logs);
 }
 
 }  // namespace cvlang
