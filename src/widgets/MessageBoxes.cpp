@@ -13,7 +13,7 @@
 #include <utility>
 
 #include "platform/FileSystem.h"
-#include "platform/SystemMessageBox.h"
+#include "widgets/NativeControls.h"
 #include "widgets/Text.h"
 
 namespace cvlang {
@@ -75,9 +75,8 @@ class MessageDialog : public wxGenericMessageDialog {
         if (!HasSystemMessageBox())
             return wxGenericMessageDialog::ShowModal();
         WX_HOOK_MODAL_DIALOG();
-        const wxWindow* owner = GetParent();
-        const auto pressed = static_cast<MessageAnswer>(SystemMessageBox(
-            owner == nullptr ? nullptr : owner->GetHandle(), message_.text, message_.title,
+        const auto pressed = static_cast<MessageAnswer>(ShowSystemMessageBox(
+            GetParent(), ToWx(message_.text), ToWx(message_.title),
             static_cast<int>(message_.buttons) | static_cast<int>(message_.icon)));
         for (const auto& [answer, id] : kAnswers) {
             if (answer == pressed)

@@ -37,4 +37,12 @@ void SetAccessibleName(wxWindow& control, const wxString& name) {
     NameWidget(control.GetHandle(), text.data());
 }
 
+bool HasSystemMessageBox() {
+    return false;
+}
+
+int ShowSystemMessageBox(const wxWindow*, const wxString&, const wxString&, int) {
+    return 0;
+}
+
 }  // namespace cvlang

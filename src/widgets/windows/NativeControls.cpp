@@ -14,4 +14,15 @@ void ReplaceEntries(wxListBox& list, const wxArrayString& entries) {
 // Screen readers take the text of the label that was created before the control.
 void SetAccessibleName(wxWindow&, const wxString&) {}
 
+bool HasSystemMessageBox() {
+    return true;
+}
+
+int ShowSystemMessageBox(const wxWindow* owner, const wxString& text, const wxString& title,
+                         int style) {
+    return MessageBoxW(owner == nullptr ? nullptr : owner->GetHandle(), text.wc_str(),
+                       title.wc_str(),
+                       static_cast<UINT>(style) | (owner == nullptr ? MB_TASKMODAL : 0));
+}
+
 }  // namespace cvlang
