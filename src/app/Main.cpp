@@ -8,12 +8,13 @@
 namespace cvlang {
 namespace {
 
-/// A box where there is a display, otherwise standard error.
-class CommandLineMessages : public StandardErrorMessages {
+/// A box where there is a display, otherwise standard error. Nobody is there to answer questions.
+class CommandLineMessages : public UserMessages {
   public:
     MessageAnswer Show(const UserMessage& message) override {
-        return WindowsCanBeSeen() && ShowInBox(message) ? MessageAnswer::Ok
-                                                        : StandardErrorMessages::Show(message);
+        if (!WindowsCanBeSeen() || !ShowInBox(message))
+            WriteErrorLine(message.text);
+        return message.buttons == MessageButtons::Ok ? MessageAnswer::Ok : MessageAnswer::No;
     }
 };
 

@@ -10,12 +10,6 @@
 namespace cvlang {
 namespace {
 
-struct Server {
-    std::u16string host;
-    std::uint16_t port;
-    std::u16string fault;
-};
-
 /// 0 when the text is no port.
 std::uint16_t PortFrom(std::string_view text) {
     std::uint16_t port = 0;
@@ -31,7 +25,7 @@ bool IsHost(const std::string& text, bool isIPv6) {
 }
 
 /// HOST, HOST:PORT, [IPV6] or [IPV6]:PORT. Without a host when the text is none of them.
-Server ParseServer(const std::string& text, std::uint16_t usualPort) {
+DistributionServer ParseServer(const std::string& text, std::uint16_t usualPort) {
     const bool isIPv6 = text.starts_with('[');
     const std::size_t end = std::min(text.find(isIPv6 ? ']' : ':'), text.size());
     const std::string host = isIPv6 ? text.substr(1, end - 1) : text.substr(0, end);
@@ -46,10 +40,11 @@ Server ParseServer(const std::string& text, std::uint16_t usualPort) {
 }
 
 /// The server that a variable of the environment names, otherwise the built-in one.
-Server ServerFrom(const char* variable, std::u16string_view builtIn, std::uint16_t usualPort) {
+DistributionServer ServerFrom(const char* variable, std::u16string_view builtIn,
+                              std::uint16_t usualPort) {
     const std::u16string named = EnvironmentText(variable);
     const std::u16string text = named.empty() ? std::u16string(builtIn) : named;
-    Server server = ParseServer(Utf16ToAnsi(text), usualPort);
+    DistributionServer server = ParseServer(Utf16ToAnsi(text), usualPort);
     if (server.host.empty())
         server.fault = u"\"" + text + u"\" is not the address of a server. Please set " +
                        AnsiToUtf16(variable) +
@@ -60,14 +55,14 @@ Server ServerFrom(const char* variable, std::u16string_view builtIn, std::uint16
 }  // namespace
 
 MakerServices ConfiguredServices() {
-    Server web = ServerFrom("CORVANE_DISTRIBUTION_SERVER", DISTRIBUTION_SERVER, kHttpPort);
-    Server mail = ServerFrom("CORVANE_SUBMISSION_SERVER", SUBMISSION_SERVER, 0);
+    const DistributionServer web =
+        ServerFrom("CORVANE_DISTRIBUTION_SERVER", DISTRIBUTION_SERVER, kHttpPort);
+    DistributionServer mail = ServerFrom("CORVANE_SUBMISSION_SERVER", SUBMISSION_SERVER, 0);
     if (mail.host.find(u':') != std::u16string::npos)
         mail.fault =
             u"Mail is sent over IPv4 only. Please set CORVANE_SUBMISSION_SERVER to a host name or "
             u"an IPv4 address.";
-    return {{web.host, web.port, web.fault},
-            {SUBMISSION_MAILBOX, mail.host, mail.port, mail.fault}};
+    return {web, {SUBMISSION_MAILBOX, mail.host, mail.port, mail.fault}};
 }
 
 }  // namespace cvlang

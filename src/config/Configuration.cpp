@@ -115,8 +115,4 @@ std::u16string CreateGuidString(const GuidSource& newGuid) {
     return text;
 }
 
-std::u16string GetLocalComputerName() {
-    return ComputerName();
-}
-
 }  // namespace cvlang

@@ -53,7 +53,4 @@ class Configuration {
 /// Deliberate: each of the last eight bytes from 0A to 0F has one digit, so it has 24 to 32 digits.
 std::u16string CreateGuidString(const GuidSource& newGuid = NewGuid);
 
-/// The computer's name; empty when the system fails.
-std::u16string GetLocalComputerName();
-
 }  // namespace cvlang

@@ -43,7 +43,7 @@ using TimeZoneSource = std::function<TimeZoneInformation()>;
 TimeZoneInformation SystemTimeZone();
 
 /// The computer's name in ANSI characters; empty when the system does not tell.
-std::u16string ComputerName();
+std::u16string GetLocalComputerName();
 
 struct Guid {
     std::uint32_t first;

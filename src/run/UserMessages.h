@@ -34,11 +34,4 @@ class UserMessages {
     virtual MessageAnswer Show(const UserMessage& message) = 0;
 };
 
-/// For a process without a display: writes the text to standard error and answers questions with
-/// No.
-class StandardErrorMessages : public UserMessages {
-  public:
-    MessageAnswer Show(const UserMessage& message) override;
-};
-
 }  // namespace cvlang

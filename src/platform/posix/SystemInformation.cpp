@@ -41,7 +41,7 @@ std::u16string FormatDateAndTime(const LocalTime& time) {
     return AnsiToUtf16(text.data());
 }
 
-std::u16string ComputerName() {
+std::u16string GetLocalComputerName() {
     std::array<char, 256> name{};
     if (gethostname(name.data(), name.size() - 1) != 0)
         return {};

@@ -41,7 +41,7 @@ std::u16string FormatDateAndTime(const LocalTime& time) {
     return {both.begin(), both.end()};
 }
 
-std::u16string ComputerName() {
+std::u16string GetLocalComputerName() {
     std::array<char, 41> name{};
     DWORD length = static_cast<DWORD>(name.size());
     if (!GetComputerNameA(name.data(), &length))
