@@ -1,4 +1,4 @@
-#include "mail/HtmlToText.h"
+#include "mail/MessageText.h"
 
 #include "fuzz/Fuzz.h"
 #include "text/Strings.h"

@@ -1,5 +1,5 @@
 // The first line is the set of codes, "|" stands between the pieces in which the reply comes.
-#include "mail/SmtpConnection.h"
+#include "mail/SmtpDialogue.h"
 
 #include <sys/socket.h>
 

@@ -78,9 +78,10 @@ bool Message::Send() {
     if (MailTo.empty())
         throw MailError(MailErrorNumber::Incomplete, "SendMessage", "No To: address given");
     std::string text = ComposeText();
-    SmtpDialogue dialogue(*this, GetHeloDomainName(), environment_,
-                          [this](std::string_view line) { LogActivity(line); });
-    return dialogue.Deliver(MergedAddresses({MailTo, MailCC, MailBCC}), std::move(text));
+    return DeliverMessage(
+        *this, GetHeloDomainName(), environment_,
+        [this](std::string_view line) { LogActivity(line); },
+        MergedAddresses({MailTo, MailCC, MailBCC}), std::move(text));
 }
 
 std::string Message::ComposeText() {

@@ -8,7 +8,6 @@
 
 #include "config/Configuration.h"
 #include "config/Logs.h"
-#include "mail/MessageFields.h"
 #include "mail/MessageText.h"
 
 // The Windows headers have a macro of this name, which would give the class another operation in

@@ -2,7 +2,7 @@
 
 #include "mail/Base64.h"
 #include "mail/HeaderValues.h"
-#include "mail/HtmlToText.h"
+#include "mail/MessageText.h"
 #include "mail/MailError.h"
 #include "support/Files.h"
 

@@ -6,7 +6,7 @@
 
 #include "ScriptedPeer.h"
 #include "mail/MailError.h"
-#include "mail/SmtpConnection.h"
+#include "mail/SmtpDialogue.h"
 #include "platform/Ansi.h"
 #include "support/FakeProgram.h"
 
