@@ -35,17 +35,13 @@ class MailError : public std::runtime_error {
 };
 
 /// A connection that failed while a reply was awaited.
-class ReceiveError : public MailError {
-  public:
-    explicit ReceiveError(int socketNumber)
+struct ReceiveError : MailError {
+    explicit ReceiveError(int number)
         : MailError(MailErrorNumber::Receive, "SMTPProcessClientCommand",
-                    "Windows Sockets error " + std::to_string(socketNumber)),
-          socketNumber_(socketNumber) {}
+                    "Windows Sockets error " + std::to_string(number)),
+          socketNumber(number) {}
 
-    int SocketNumber() const { return socketNumber_; }
-
-  private:
-    int socketNumber_;
+    int socketNumber;
 };
 
 }  // namespace cvlang

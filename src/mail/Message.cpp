@@ -88,14 +88,11 @@ std::string Message::ComposeText() {
     const MimeForm form = FormOfHeaders();
     if (form != MimeForm::SinglePart && boundary_.empty())
         boundary_ = NewMIMEBoundary(environment_.newGuid);
-    MessageDetails details{FormatMailDate(environment_.clock(), environment_.timeZone()),
-                           {},
-                           extraHeaders_,
-                           form,
-                           boundary_,
-                           {},
-                           attachments_,
-                           "name"};
+    MessageDetails details{.date = FormatMailDate(environment_.clock(), environment_.timeZone()),
+                           .extraHeaders = extraHeaders_,
+                           .form = form,
+                           .boundary = boundary_,
+                           .attachments = attachments_};
     if (attachments_.empty() && !AttachmentFileName.empty()) {
         details.attachments = {{PathFromAnsi(AttachmentFileName), Attachmentname}};
         details.nameParameter = "Name";  // deliberate: a capital

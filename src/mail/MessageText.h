@@ -76,13 +76,13 @@ enum class MimeForm { SinglePart, Alternative, Mixed };
 /// What a message consists of besides the user's fields.
 struct MessageDetails {
     std::string date;
-    std::string messageId;      // without its angle brackets
-    std::string extraHeaders;   // each with its line end
-    MimeForm form;              // of the headers
-    std::string boundary;       // of the forms with several parts
-    std::string innerBoundary;  // of the two forms of an HTML body beside attachments
+    std::string messageId{};      // without its angle brackets
+    std::string extraHeaders;     // each with its line end
+    MimeForm form;                // of the headers
+    std::string boundary;         // of the forms with several parts
+    std::string innerBoundary{};  // of the two forms of an HTML body beside attachments
     std::vector<Attachment> attachments;
-    std::string_view nameParameter;  // how an attachment's content type spells "name"
+    std::string_view nameParameter = "name";  // how an attachment's content type spells it
 };
 
 /// The message as it goes over the wire. An attachment that cannot be read has an empty part.

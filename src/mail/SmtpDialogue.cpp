@@ -240,7 +240,7 @@ class SmtpDialogue {
                                             environment_.clock, message_.ErrorString);
         } catch (const ReceiveError& error) {
             log_("Windows Sockets error processing " + loggedAs +
-                 " command: " + std::to_string(error.SocketNumber()));
+                 " command: " + std::to_string(error.socketNumber));
             throw;
         }
     }
@@ -316,7 +316,7 @@ std::string SMTPProcessClientCommand(SocketHandle socket, std::string_view comma
         return WaitForReply(socket, replyCodeSet, clock, start);
     } catch (const ReceiveError& error) {
         ErrorString = "Windows Sockets error processing " + std::string(command) +
-                      " command: " + std::to_string(error.SocketNumber());
+                      " command: " + std::to_string(error.socketNumber);
         throw;
     }
 }

@@ -15,7 +15,16 @@ std::u16string AnsiToUtf16(std::string_view bytes);
 std::string Utf16ToAnsi(std::u16string_view text);
 
 /// The ANSI bytes of a text, or nothing when the code page lacks one of its characters.
-std::optional<std::string> Utf16ToAnsiExactly(std::u16string_view text);
+inline std::optional<std::string> Utf16ToAnsiExactly(std::u16string_view text) {
+    // Fast path: ASCII is the same in all code pages.
+    char16_t bits = 0;
+    for (const char16_t c : text)
+        bits |= c;
+    if (bits < 0x80)
+        return std::string(text.begin(), text.end());
+    const std::string bytes = Utf16ToAnsi(text);
+    return AnsiToUtf16(bytes) == text ? std::optional(bytes) : std::nullopt;
+}
 
 /// The text in upper case, letter by letter, so its length is the same (é becomes É, ß stays).
 std::u16string ToUpper(std::u16string_view text);

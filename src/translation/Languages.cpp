@@ -1,5 +1,7 @@
 #include "translation/Languages.h"
 
+#include <algorithm>
+
 #include "platform/Ansi.h"
 #include "platform/FileSystem.h"
 #include "platform/Process.h"
@@ -52,12 +54,9 @@ constexpr Language kBuiltInAbbreviations[] = {
     {u"DUTCH", u"nl"},
 };
 
-std::u16string BuiltInAbbreviation(std::u16string_view upperName) {
-    for (const Language& language : kBuiltInAbbreviations) {
-        if (language.name == upperName)
-            return std::u16string(language.abbreviation);
-    }
-    return {};
+std::u16string_view BuiltInAbbreviation(std::u16string_view upperName) {
+    const auto found = std::ranges::find(kBuiltInAbbreviations, upperName, &Language::name);
+    return found == std::end(kBuiltInAbbreviations) ? std::u16string_view() : found->abbreviation;
 }
 
 std::u16string AbbreviationInList(std::u16string_view list, std::u16string_view upperName) {
@@ -145,7 +144,7 @@ std::u16string LanguageAbbreviation(const Configuration& config, const Selection
     std::u16string list;
     if (ReadLanguageList(LanguageListFile(config.GetApplicationDirectory(), selection), list))
         return AbbreviationInList(list, upperName);
-    return BuiltInAbbreviation(upperName);
+    return std::u16string(BuiltInAbbreviation(upperName));
 }
 
 std::vector<std::u16string> LoadLanguageList(const Configuration& config,

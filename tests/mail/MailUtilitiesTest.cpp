@@ -2,8 +2,8 @@
 
 #include "mail/Base64.h"
 #include "mail/HeaderValues.h"
-#include "mail/MessageText.h"
 #include "mail/MailError.h"
+#include "mail/MessageText.h"
 #include "support/Files.h"
 
 namespace cvlang {

@@ -1,5 +1,8 @@
 #include <windows.h>
 
+#include <cstring>
+#include <utility>
+
 #include "platform/Ansi.h"
 #include "platform/Registry.h"
 
@@ -38,32 +41,34 @@ class RegistryKey {
     HKEY handle_ = nullptr;
 };
 
+/// The type and the bytes of a value; no bytes when it is missing.
+std::pair<DWORD, std::string> Read(std::u16string_view key, std::u16string_view name) {
+    const RegistryKey opened(key);
+    const std::string value = Utf16ToAnsi(name);
+    DWORD type = 0;
+    DWORD size = 0;
+    std::string bytes;
+    if (opened.Query(value, type, nullptr, size)) {
+        bytes.resize(size);
+        // The second size counts: the first may be larger than the data.
+        bytes.resize(opened.Query(value, type, bytes.data(), size) ? size : 0);
+    }
+    return {type, bytes};
+}
+
 class WindowsRegistry : public Registry {
   public:
     std::u16string ReadString(std::u16string_view key, std::u16string_view name) const override {
-        const RegistryKey opened(key);
-        const std::string value = Utf16ToAnsi(name);
-        DWORD type = 0;
-        DWORD size = 0;
-        if (!opened.Query(value, type, nullptr, size))
-            return {};
-        std::string bytes(size, '\0');
-        // The second size counts: the first may be larger than the data.
-        if (!opened.Query(value, type, bytes.data(), size) || size == 0)
-            return {};
-        return AnsiToUtf16({bytes.data(), size - 1});  // without the final NUL
+        const std::string bytes = Read(key, name).second;
+        return AnsiToUtf16(std::string_view(bytes).substr(0, bytes.empty() ? 0 : bytes.size() - 1));
     }
 
     std::int32_t ReadDword(std::u16string_view key, std::u16string_view name) const override {
-        const RegistryKey opened(key);
-        const std::string value = Utf16ToAnsi(name);
-        DWORD type = 0;
-        DWORD size = 0;
-        if (!opened.Query(value, type, nullptr, size) || type != REG_DWORD)
-            return 0;
+        const auto [type, bytes] = Read(key, name);
         std::int32_t number = 0;
-        size = sizeof number;
-        return opened.Query(value, type, &number, size) ? number : 0;
+        if (type == REG_DWORD && bytes.size() <= sizeof number)
+            std::memcpy(&number, bytes.data(), bytes.size());
+        return number;
     }
 };
 
