@@ -224,26 +224,16 @@ TEST(TokenFileFetch, NothingIsFetchedWithoutConsentOrAServer) {
     EXPECT_EQ(FileBytes(kFile), "mine");
 }
 
-/// Counts the steps while it is shown.
-struct CountingProgress : Progress {
-    void Begin() override { ++open; }
-    void End() override { --open; }
-    void Step() override { steps += open; }
-    int open = 0, steps = 0;
-};
-
 TEST(TokenFileFetch, AnUnknownLanguageIsWarnedOfAndProgressIsShown) {
     FakeProgram fake;
-    CountingProgress progress;
-    fake.program.progress = &progress;
     Fetch(fake, LatePeer(1).Port(), u"Klingon");
     EXPECT_EQ(FileBytes("WebMail-default-tokens-.map"), "later");
     const UserMessage& warning = fake.messages.shown.at(1);
     EXPECT_EQ(warning.text, u"Language Symbol not found");
     EXPECT_EQ(warning.title, u"Warning");
     EXPECT_EQ(warning.icon, MessageIcon::Exclamation);
-    EXPECT_EQ(progress.open, 0);
-    EXPECT_GT(progress.steps, 3);
+    EXPECT_EQ(std::pair(fake.progress.begun, fake.progress.ended), std::pair(1, 1));
+    EXPECT_GT(fake.progress.steps, 3);
 }
 
 TEST(TokenFileFetch, TheSwitchWritesWholeUtf16Units) {

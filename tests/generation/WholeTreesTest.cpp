@@ -16,16 +16,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct CountingProgress : Progress {
-    void Step() override { ++steps; }
-    std::size_t steps = 0;
-};
-
 /// An installation with a program; of the same seed, each is the same.
 class Installation {
   public:
     explicit Installation(std::uint32_t seed) : random_(seed) {
-        fake_.program.progress = &progress_;
         fake_.registry.numbers[u"Authoring Version"] = seed % 5 == 0 ? 1 : 2;
         fs::create_directories(lang_);
         for (const char* name : {"SYS", "EN", "fr", "outside"}) {
@@ -62,7 +56,7 @@ class Installation {
         const std::string folder = fake_.folder.Path().string();
         for (std::size_t i = 0; (i = log.find(folder, i)) != log.npos;)
             log.erase(i, folder.size());
-        std::multiset<std::string> state{log, "steps " + std::to_string(progress_.steps)};
+        std::multiset<std::string> state{log, "steps " + std::to_string(fake_.progress.steps)};
         for (const std::int32_t count : fake_.program.tokenUseCounts)
             state.insert("count " + std::to_string(count));
         for (const fs::directory_entry& entry : fs::recursive_directory_iterator(lang_)) {
@@ -130,7 +124,6 @@ class Installation {
     }
 
     FakeProgram fake_;
-    CountingProgress progress_;
     std::mt19937 random_;
     const fs::path lang_ = fake_.folder / "NETWebMail" / "default" / "lang";
     std::vector<fs::path> files_;

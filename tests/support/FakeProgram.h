@@ -46,9 +46,17 @@ struct RecordingMessages : UserMessages {
     MessageAnswer answer = MessageAnswer::Yes;
 };
 
+struct CountingProgress : Progress {
+    void Begin() override { ++begun; }
+    void End() override { ++ended; }
+    void Step() override { ++steps; }
+    int begun = 0, ended = 0, steps = 0;
+};
+
 /// A program whose application directory is a temporary folder.
 struct FakeProgram {
     FakeProgram() {
+        program.progress = &progress;
         registry.strings[u"Application Directory"] = TextFromPath(folder.Path());
         registry.numbers[u"Authoring Version"] = 2;
     }
@@ -62,6 +70,7 @@ struct FakeProgram {
     Configuration config{registry};
     Logs logs{FixedClock, folder / "trace" / "CVTrans.log"};
     RecordingMessages messages;
+    CountingProgress progress;
     Program program{config, logs, messages};
 };
 
