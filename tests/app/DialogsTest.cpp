@@ -1,5 +1,6 @@
 #include "app/MainWindowFixture.h"
 #include "platform/FileSystem.h"
+#include "support/LoopbackPeer.h"
 #include "widgets/Text.h"
 
 namespace cvlang {
@@ -74,7 +75,7 @@ TEST_F(Dialogs, AnAddedTokenIsListed) {
             Press(dialog, button);
         });
         Press(Window(), "Add Token...");
-        EXPECT_EQ(Token(), kHello);
+        EXPECT_EQ(Selected(kTokens), kHello);
     }
     EXPECT_EQ(Entries(kTokens), List({kHello, kBye, kNew, u"[CV_TXT- MORE]: More \u20AC"}));
 }
@@ -106,12 +107,10 @@ TEST_F(Dialogs, TheDefaultTranslationComesFromTheDistributionServer) {
         "You have requested to download the default/current French translation table for "
         "WebMail[default.net] from the Corvane web site.\n\nThis will overwrite any previous "
         "modifications you have made to the this language.\n\nDo you wish to continue?";
-    const auto folder = std::filesystem::path(std::getenv("TEST_WEB_FOLDER")) /
-                        "Tools/WebMail/bases/default.net/Languages";
-    std::string published = Utf16Bytes(u"[CV_TXT-HELLO]\tSalut\r\n");
-    published += std::string(5000, '\0');
-    PutFile(folder / kFrenchMap, published);
-    Pick(Window(ConfiguredServices()), kLanguages, u"French");
+    const std::string published =
+        Utf16Bytes(u"[CV_TXT-HELLO]\tSalut\r\n" + std::u16string(5000, u'\0'));
+    WebPeer server("HTTP/1.0 200 OK\r\n\r\n" + published);
+    Pick(Window({{u"127.0.0.1", server.Port()}, {}}), kLanguages, u"French");
     for (const int answer : {wxID_NO, wxID_YES}) {
         EXPECT_NE(FileBytes(kFrenchMap), published);
         script_.ExpectBox("Update Language File: WebMail[default.net]", question,

@@ -1,6 +1,9 @@
 // The main window on a small installation of real files.
 #pragma once
 
+#include <wx/listctrl.h>
+#include <wx/weakref.h>
+
 #include "app/frmMain.h"
 #include "support/FakeProgram.h"
 #include "support/WindowScript.h"
@@ -49,15 +52,14 @@ class MainWindow : public testing::Test {
         PutFile(kFrenchMap, Utf16Bytes(u"[CV_TXT-HELLO]\tBonjour\r\n[CV_TXT-BYE]\tAu revoir\r\n"));
     }
     ~MainWindow() override {
-        if (window_ != nullptr) {
+        if (window_)
             window_->Destroy();
-            Settle();
-        }
+        Settle();
     }
 
     /// The window, opened when it is first asked for.
     frmMain& Window(const MakerServices& services = {}) {
-        if (window_ == nullptr) {
+        if (!window_) {
             window_ = new frmMain(program_, services);
             window_->Show();
             Settle();
@@ -66,16 +68,29 @@ class MainWindow : public testing::Test {
     }
 
     std::u16string Translation() { return Find<TextBox>(Window(), kTranslation).Text(); }
-    std::u16string Token() { return Find<SelectionList>(Window(), kTokens).SelectedText(); }
+    std::u16string Selected(const char* list) {
+        return Find<SelectionList>(Window(), list).SelectedText();
+    }
+    /// All that the details show, their headings included.
+    wxString Details() {
+        const auto& list = Find<wxListCtrl>(Window(), kDetails);
+        wxString text;
+        for (int row = -1; row < list.GetItemCount(); ++row) {
+            for (const int column : {0, 1}) {
+                wxListItem heading;
+                list.GetColumn(column, heading);
+                text += (row < 0 ? heading.GetText() : list.GetItemText(row, column)) + "|";
+            }
+        }
+        return text;
+    }
     const List& Entries(const char* list) { return Find<SelectionList>(Window(), list).Entries(); }
 
     FakeProgram fake_;
     WatchedBoxes boxes_;
     Program program_{fake_.config, fake_.logs, boxes_};
     WindowScript script_;
-
-  private:
-    frmMain* window_ = nullptr;
+    wxWeakRef<frmMain> window_;
 };
 
 }  // namespace cvlang

@@ -1,7 +1,6 @@
 #include <wx/clipbrd.h>
 #include <wx/display.h>
 #include <wx/gauge.h>
-#include <wx/listctrl.h>
 #include <wx/textdlg.h>
 
 #include <cstdlib>
@@ -17,28 +16,29 @@ TEST_F(MainWindow, OpensWithNoLanguageAndListsTokensWhenOneIsClicked) {
     EXPECT_EQ(Entries(kApplicationList), List({u"WebMail", u"WebAdmin"}));
     EXPECT_EQ(Entries(kBases), List({u"default.net", u"zephra.net"}));
     EXPECT_EQ(Entries(kLanguages).size(), 13U);
-    EXPECT_TRUE(Entries(kTokens).empty());
+    EXPECT_EQ(Entries(kTokens), List());
+    EXPECT_NE(Find<wxWindow>(Window(), "Label7").GetLabel().Find("modificatons"), wxNOT_FOUND);
 
     Pick(Window(), kLanguages, u"French");
     EXPECT_EQ(Entries(kTokens), List({kHello, kBye, kNew}));
     EXPECT_EQ(Translation(), u"Bonjour");
-    const auto& details = Find<wxListCtrl>(Window(), kDetails);
-    EXPECT_EQ(details.GetItemText(0, 0) + "|" + details.GetItemText(0, 1), "[CV_TXT-HELLO]|Hello");
-
+    EXPECT_EQ(Details(), "Token Name|English Value|[CV_TXT-HELLO]|Hello|");
     Pick(Window(), kTokens, kNew);
-    EXPECT_EQ(details.GetItemText(0, 0) + "|" + details.GetItemText(0, 1), "[CV_TXT-NEW]|");
+    EXPECT_EQ(Details(), "Token Name|English Value|[CV_TXT-NEW]||");
     EXPECT_EQ(Translation(), u"");
 
     // Another base forgets the language; the tokens stay until one is clicked.
     Pick(Window(), kBases, u"zephra.net");
-    EXPECT_EQ(Find<SelectionList>(Window(), kLanguages).SelectedText(), u"");
+    EXPECT_EQ(Selected(kLanguages), u"");
     EXPECT_EQ(Entries(kTokens).size(), 3U);
     Pick(Window(), kLanguages, u"French");
-    EXPECT_TRUE(Entries(kTokens).empty());
+    EXPECT_EQ(Entries(kTokens), List());
 
     Pick(Window(), kApplicationList, u"WebAdmin");
     EXPECT_EQ(program_.CurrentApplication, u"WebAdmin");
     EXPECT_EQ(FileBytes("WebAdmin-WebAdmin-lang.txt").substr(0, 12), "Chinese\tzh\r\n");
+    Press(Window(), "Quit");
+    EXPECT_EQ(window_, nullptr);
 }
 
 TEST_F(MainWindow, FitsTheScreen) {
@@ -46,10 +46,8 @@ TEST_F(MainWindow, FitsTheScreen) {
     if (wxPlatformInfo::Get().GetPortId() != wxPORT_GTK)
         return;  // Wine shows the screen's pixels to no program
     for (const char* button :
-         {"Update File", "Add Token...", "Remove Token...", "Apply Translation", "Quit"}) {
-        const wxImage picture = ScreenPixels(Find<wxButton>(Window(), button).GetScreenRect());
-        EXPECT_NEAR(Share(picture, IsDark), 0.1, 0.09) << button;
-    }
+         {"Update File", "Add Token...", "Remove Token...", "Apply Translation", "Quit"})
+        EXPECT_NEAR(ShareOf(Find<wxButton>(Window(), button), IsDark), 0.1, 0.09) << button;
 }
 
 TEST_F(MainWindow, SavesWhatIsTypedAndNothingElse) {
@@ -78,20 +76,20 @@ TEST_F(MainWindow, SavesWhatIsTypedAndNothingElse) {
 }
 
 TEST_F(MainWindow, AppliesATranslationAndSaysSoWhateverHappened) {
-    const auto apply = [this](const wxString& language) {
+    Pick(Window(), kLanguages, u"French");
+    for (const wxString& language :
+         {wxString("French"), wxString()}) {  // the second time without one, and no pages
         script_.ExpectBox(
             "Language Generation",
             "Translated web pages were generated sucessfully for " + language + " language.",
             kInformation);
         Press(Window(), "Apply Translation");
         EXPECT_EQ(FileBytes("LANGUAGES.TAB"), Utf16Bytes(u"fr\tFrench\r\n"));
-    };
-    Pick(Window(), kLanguages, u"French");
-    apply("French");
-    EXPECT_EQ(FileBytes("NETWebMail/default/lang/fr/Login.aspx"),
-              "\xEF\xBB\xBF" + std::string("Bonjour"));
-    Pick(Window(), kBases, u"zephra.net");  // has no pages, and no language is selected
-    apply("");
+        EXPECT_EQ(FileBytes("NETWebMail/default/lang/fr/Login.aspx"),
+                  "\xEF\xBB\xBF"
+                  "Bonjour");
+        Pick(Window(), kBases, u"zephra.net");
+    }
 }
 
 TEST_F(MainWindow, WorksWithoutAnyBase) {
@@ -125,39 +123,35 @@ class MainWindowInput : public MainWindow {
         EXPECT_EQ(std::system(("xdotool " + action).c_str()), 0) << action;
         Settle(milliseconds);
     }
-    static std::string ClickAt(const wxPoint& place) {
-        return "mousemove " + std::to_string(place.x) + " " + std::to_string(place.y) + " click 1";
-    }
-    void ClickFirstOf(const char* list) {
-        Input(ClickAt(Find<wxWindow>(Window(), list).GetScreenPosition() + wxPoint(20, 12)));
+    std::string ClickAt(const char* control) {
+        const wxPoint place = Find<wxWindow>(Window(), control).GetScreenPosition();
+        return wxString::Format("mousemove %d %d click 1 ", place.x + 20, place.y + 12)
+            .utf8_string();
     }
 };
 
 TEST_F(MainWindowInput, HasNoEffectWhileTheProgramAsksForPatience) {
-    const wxRect quit = Find<wxWindow>(Window(), "Quit").GetScreenRect();
+    const std::string quit = ClickAt("Quit") + "key Return";
     program_.progress->Begin();
     auto& wait = Find<wxDialog>(Window(), "Please Wait ...");
     program_.progress->Expect([] { return 4; });
     for (const int done : {1, 2, 3}) {
         wxMilliSleep(110);
         program_.progress->Step();
-        const wxRect bar = Find<wxGauge>(wait, "gauge").GetScreenRect();
         const auto isFilled = [](int red, int blue) { return blue > red + 60; };
-        const wxRect middle(bar.x, bar.y + bar.height / 2, bar.width, 1);
-        EXPECT_NEAR(Share(ScreenPixels(middle), isFilled), done / 4.0, 0.1);
+        EXPECT_NEAR(ShareOf(Find<wxGauge>(wait, "gauge"), isFilled), done / 4.0, 0.15);
     }
-    const wxRect label = Find<wxWindow>(wait, "lblStatusMessage").GetScreenRect();
-    EXPECT_GT(Share(ScreenPixels(label), IsDark), 0.02);
-    Input("key Escape key alt+F4 " + ClickAt(quit.GetPosition() + wxPoint(9, 9)) + " key Return",
-          0);
-    EXPECT_TRUE(wait.IsShown() && wxIsBusy() && !Window().IsEnabled());
-    const std::string late =
-        "xdotool " + ClickAt(quit.GetPosition() + wxPoint(9, 9)) + " key Return";
-    EXPECT_EQ(std::system(late.c_str()), 0);
+    for (const char* label : {"lblStatusMessage", "lblTimeMessage"})
+        EXPECT_GT(ShareOf(Find<wxWindow>(wait, label), IsDark), 0.02);
+    Input("key Escape key alt+F4 " + quit, 0);
+    EXPECT_EQ(std::tuple(wait.IsShown(), wxIsBusy(), Window().IsEnabled()),
+              std::tuple(true, true, false));
+    EXPECT_EQ(std::system(("xdotool " + quit).c_str()), 0);  // not processed before the end
     program_.progress->End();
     Settle(100);
-    EXPECT_TRUE(!wxIsBusy() && Window().IsEnabled() && !wxWindow::FindWindowByName("frmWait"));
-    EXPECT_TRUE(Window().IsShown());
+    EXPECT_EQ(wxWindow::FindWindowByName("frmWait"), nullptr);
+    EXPECT_EQ(std::tuple(Window().IsShown(), wxIsBusy(), Window().IsEnabled()),
+              std::tuple(true, false, true));
 }
 
 TEST_F(MainWindowInput, AnswersBoxesWithIcons) {
@@ -177,30 +171,32 @@ TEST_F(MainWindowInput, AnswersBoxesWithIcons) {
 }
 
 TEST_F(MainWindowInput, ClicksTheSelectedEntryAndFindsOneByItsLetter) {
-    ClickFirstOf(kApplicationList);  // is selected since the start
+    Input(ClickAt(kApplicationList));  // is selected since the start
     EXPECT_EQ(Entries(kTokens).size(), 3U);
     const auto publish = [](const std::u16string& value) {
         PutFile("WebMail-default.net-tokens-zh.map",
                 Utf16Bytes(u"[CV_TXT-HELLO]\t" + value + u"\r\n"));
     };
-    const std::pair<const char*, std::u16string> clicks[] = {
-        {kLanguages, u"1"}, {kLanguages, u"2"}, {kTokens, u"3"}};
-    for (const auto& [list, value] : clicks) {
-        publish(value);
-        ClickFirstOf(list);
-        EXPECT_EQ(Translation(), value);
+    const std::tuple<const char*, std::u16string, std::u16string> clicks[] = {
+        {kLanguages, u"1", u"1"},
+        {kLanguages, u"2", u"2"},
+        {kTokens, u"3", u"3"},
+        {kTokens, u"typed", u"typed"},
+        {kTokens, u"4", u"4"}};
+    for (const auto& [list, value, shown] : clicks) {
+        if (value == u"typed") {
+            Type(Window(), kTranslation, value);
+        } else {
+            publish(value);
+        }
+        Input(ClickAt(list));
+        EXPECT_EQ(Translation(), shown);
+        if (value == u"typed")
+            Press(Window(), "Update File");
     }
-    Type(Window(), kTranslation, u"not saved");
-    ClickFirstOf(kTokens);
-    EXPECT_EQ(Translation(), u"not saved");
-    Press(Window(), "Update File");
-    publish(u"4");
-    ClickFirstOf(kTokens);
-    EXPECT_EQ(Translation(), u"4");
-
     Find<wxWindow>(Window(), kLanguages).SetFocus();
     Input("key f");
-    EXPECT_EQ(Find<SelectionList>(Window(), kLanguages).SelectedText(), u"French");
+    EXPECT_EQ(Selected(kLanguages), u"French");
     EXPECT_EQ(Translation(), u"Bonjour");
 }
 
@@ -214,7 +210,7 @@ TEST_F(MainWindowInput, WalkThroughAllControlsWithoutClickingAnything) {
     EXPECT_EQ(names,
               "lstApplication lstBases lstLanguages lbxTokens lvwTokenDetails txtTranslation "
               "cmdUpdate cmdAddToken cmdRemoveToken cmdApply cmdQuit ");
-    EXPECT_EQ(Find<SelectionList>(Window(), kLanguages).SelectedText(), u"");
+    EXPECT_EQ(Selected(kLanguages), u"");
 
     Find<wxWindow>(Window(), kLanguages).SetFocus();
     Settle();
@@ -226,41 +222,38 @@ TEST_F(MainWindowInput, SaveFindAndMoveOn) {
     Pick(Window(), kLanguages, u"French");
     Find<wxWindow>(Window(), kTranslation).SetFocus();
     Find<TextBox>(Window(), kTranslation).SetInsertionPointEnd();
-    Input("type ab");
-    EXPECT_EQ(Translation(), u"Bonjourab");
-    for (const char* redo : {"key ctrl+y", "key ctrl+shift+z"}) {
-        Input("key ctrl+z");
-        EXPECT_EQ(Translation(), u"Bonjour");
-        Input(redo);
-        EXPECT_EQ(Translation(), u"Bonjourab");
-    }
-    Input("key ctrl+z c ctrl+s");
-    EXPECT_EQ(FileBytes(kFrenchMap),
-              Utf16Bytes(u"[CV_TXT-HELLO]\tBonjourc\r\n[CV_TXT-BYE]\tAu revoir\r\n"));
-    Input("key d ctrl+Return ctrl+z");  // there is nothing to undo in the next token
-    EXPECT_EQ(Translation(), u"Au revoir");
-    EXPECT_EQ(FileBytes(kFrenchMap),
-              Utf16Bytes(u"[CV_TXT-HELLO]\tBonjourcd\r\n[CV_TXT-BYE]\tAu revoir\r\n"));
     for (const char* wanted : {"O", "BYE"}) {
         script_.ExpectDialog("Find", [wanted](wxDialog& dialog) {
             dynamic_cast<wxTextEntryDialog&>(dialog).SetValue(wanted);
             dialog.EndModal(wxID_OK);
         });
     }
-    const std::pair<const char*, std::u16string> moves[] = {
-        {"ctrl+Up", kHello}, {"ctrl+shift+Down", kNew},
-        {"ctrl+Down", kNew}, {"ctrl+s", kNew},  // an empty text is no translation
-        {"F3", kHello},                         // asks what to find
-        {"F3", kBye},        {"ctrl+Up", kHello},
-        {"ctrl+f", kBye},    {"ctrl+shift+Down", kNew}};
-    EXPECT_EQ(Token(), kBye);
-    for (const auto& [key, token] : moves) {
-        Input(std::string("key ") + key);
-        EXPECT_EQ(Token(), token) << key;
+    const std::tuple<const char*, std::u16string, std::u16string> steps[] = {
+        {"type ab", kHello, u"Bonjourab"},
+        {"key ctrl+z", kHello, u"Bonjour"},
+        {"key ctrl+y", kHello, u"Bonjourab"},
+        {"key ctrl+z", kHello, u"Bonjour"},
+        {"key ctrl+shift+z", kHello, u"Bonjourab"},
+        {"key ctrl+z c ctrl+s ctrl+Down ctrl+Up", kHello, u"Bonjourc"},
+        {"key End d ctrl+Return ctrl+z", kBye, u"Au revoir"},  // there is nothing to undo
+        {"key ctrl+Up", kHello, u"Bonjourcd"},
+        {"key ctrl+shift+Down", kNew, u""},
+        {"key ctrl+Down", kNew, u""},
+        {"key ctrl+s", kNew, u""},         // an empty text is no translation
+        {"key F3", kHello, u"Bonjourcd"},  // asks what to find
+        {"key F3", kBye, u"Au revoir"},
+        {"key ctrl+Up", kHello, u"Bonjourcd"},
+        {"key ctrl+f", kBye, u"Au revoir"},
+        {"key ctrl+shift+Down", kNew, u""},
+        {"type x", kNew, u"x"},
+        {"key ctrl+shift+Down", kNew, u"x"}};  // finds the same token: nothing is loaded
+    for (const auto& [input, token, text] : steps) {
+        Input(input);
+        EXPECT_EQ(Selected(kTokens), token) << input;
+        EXPECT_EQ(Translation(), text) << input;
     }
-    Type(Window(), kTranslation, u"not saved");
-    Input("key ctrl+shift+Down");  // finds the same token: nothing is loaded
-    EXPECT_EQ(Translation(), u"not saved");
+    EXPECT_EQ(FileBytes(kFrenchMap), Utf16Bytes(u"[CV_TXT-HELLO]\tBonjourcd\r\n"
+                                                u"[CV_TXT-BYE]\tAu revoir\r\n[CV_TXT-NEW]\t\r\n"));
 }
 
 TEST_F(MainWindowInput, PasteOnOneLine) {
@@ -272,10 +265,10 @@ TEST_F(MainWindowInput, PasteOnOneLine) {
     wxTheClipboard->Close();
     Input("key ctrl+v");
     EXPECT_EQ(Translation(), u"a b c d");
-    Find<TextBox>(Window(), kTranslation).WriteText("\te");  // as if it were dropped
-    EXPECT_EQ(Translation(), u"a b c d e");
-    Find<TextBox>(Window(), kTranslation).WriteText(wxString('x', 70000));  // is too long
-    EXPECT_EQ(Translation(), u"a b c d e");
+    for (const wxString& dropped : {wxString("\te"), wxString('x', 70000)}) {  // is too long
+        Find<TextBox>(Window(), kTranslation).WriteText(dropped);
+        EXPECT_EQ(Translation(), u"a b c d e");
+    }
 }
 
 }  // namespace

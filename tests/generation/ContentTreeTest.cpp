@@ -1,6 +1,15 @@
+// Generated installations: cases, and random ones that are compared with the procedure that copies
+// the reference folder first and translates every page of the language's folder then.
 #include "generation/ContentTree.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <random>
+#include <regex>
+#include <set>
+#include <sstream>
 
 #include "generation/PageTranslator.h"
 #include "support/FakeProgram.h"
@@ -13,6 +22,8 @@ namespace fs = std::filesystem;
 const std::string kMark = "\xEF\xBB\xBF";
 const std::string kSource = "\r\n[CV_TXT-A] [CV_TXT-NONE]\r\n";
 const std::string kTranslated = kMark + "valeur [CV_TXT-NONE]";
+
+const Selection kFrench{u"WebMail", u"default.net", u"French"};
 
 /// WebMail default.net with a French map file; the reference folder is the test's to fill.
 class ContentTree : public testing::Test {
@@ -101,25 +112,20 @@ TEST_F(ContentTree, WithoutAnAbbreviationTheRootItselfIsTheLanguagesFolder) {
 
 TEST_F(ContentTree, TheQuestionIsAskedOnlyOfAUserWhoHasPagesToLose) {
     PutFile(sys / "a.asp", "fresh");
-    const std::tuple<const char*, int, MessageAnswer, bool, std::size_t> cases[] = {
-        {nullptr, 0, MessageAnswer::No, true, 0U},
-        {"own", 1, MessageAnswer::No, true, 0U},
-        {"own", 0, MessageAnswer::No, false, 1U},
-        {"own", 0, MessageAnswer::Yes, true, 2U}};
-    const Selection french{u"WebMail", u"default.net", u"French"};
-    for (const auto& [own, noPrompt, answer, goesOn, boxes] : cases) {
-        if (own != nullptr)
-            PutFile(fr / "a.asp", own);
-        fake.messages.answer = answer;
-        EXPECT_EQ(PrepareLanguageFolder(fake.program, french, noPrompt), goesOn);
-        EXPECT_EQ(FileBytes(fr / "a.asp"), goesOn ? "fresh" : "own");
-        EXPECT_EQ(fake.messages.shown.size(), boxes);
+    fake.messages.answer = MessageAnswer::No;
+    std::size_t asked = 0;
+    for (const auto& [noPrompt, isAsked] :
+         {std::pair{0, false}, {1, false}, {0, true}, {0, true}, {0, false}}) {
+        EXPECT_EQ(PrepareLanguageFolder(fake.program, kFrench, noPrompt), !isAsked || asked == 1);
+        EXPECT_EQ(FileBytes(fr / "a.asp"), isAsked && asked == 0 ? "own" : "fresh");
+        asked += isAsked ? 1 : 0;
+        EXPECT_EQ(fake.messages.shown.size(), asked);
+        PutFile(fr / "a.asp", "own");
+        fake.messages.answer = asked == 1 ? MessageAnswer::Yes : MessageAnswer::No;
+        fake.program.unattended = asked == 2;
     }
     EXPECT_EQ(fake.messages.shown.at(0).text,
               u"Web Content for this Language already exists, do you wish to overwrite it?");
-    fake.messages.answer = MessageAnswer::No;
-    fake.program.unattended = true;
-    EXPECT_TRUE(PrepareLanguageFolder(fake.program, french, 0));
 }
 
 TEST_F(ContentTree, DebugModeTracesEveryTokenWithItsCountOverAllRuns) {
@@ -128,37 +134,35 @@ TEST_F(ContentTree, DebugModeTracesEveryTokenWithItsCountOverAllRuns) {
     fs::create_directory("trace");
     PutFile(sys / "a.asp", "[CV_TXT-A][CV_TXT-A]\r\n[CV_TXT-A]");
     Apply();
-    const std::string trace = FileBytes("trace/CVTrans.log");
-    EXPECT_NE(trace.find("\t[CV_TXT-A]\t7\r\n"), std::string::npos);
-    EXPECT_NE(trace.find("\t[CV_TXT-B]\t7\r\n"), std::string::npos);
-    EXPECT_EQ(std::count(trace.begin(), trace.end(), '\n'), 2);
+    EXPECT_THAT(FileBytes("trace/CVTrans.log"),
+                testing::MatchesRegex("[^\t]*\t\\[CV_TXT-A]\t7\r\n[^\t]*\t\\[CV_TXT-B]\t7\r\n"));
     EXPECT_EQ(fake.program.tokenUseCounts.size(), 4U);
 }
 
 TEST_F(ContentTree, LinksAreFollowedInTheReferenceFolderUnlessTheyLeadBackAndNeverElsewhere) {
-    const fs::path outside = fake.folder / "outside";
+    const fs::path outside = fake.folder / "outside", elsewhere = fake.folder / "elsewhere";
     PutFile(sys / "shared" / "c.asp", "fresh");
-    PutFile(fake.folder / "elsewhere" / "b.asp", "[CV_TXT-A]");
+    PutFile(elsewhere / "b.asp", "[CV_TXT-A]");
     PutFile(outside / "c.asp", "\r\n[CV_TXT-A]");
     fs::create_directories(fr);
     std::error_code failed;
-    fs::create_directory_symlink(fake.folder / "elsewhere", sys / "linked", failed);
-    fs::create_directory_symlink(fake.folder.Path(), sys / "back", failed);
-    fs::create_directory_symlink(sys, fake.folder / "elsewhere" / "round", failed);
-    fs::create_directory_symlink(outside, fr / "shared", failed);
-    PutFile(sys / "copied.asp", "[CV_TXT-A]");
-    PutFile(sys / "copied.gif", "[CV_TXT-A]");
+    for (const auto& [target, link] : {std::pair{elsewhere, sys / "linked"},
+                                       {fake.folder.Path(), sys / "back"},
+                                       {sys, elsewhere / "round"},
+                                       {outside, fr / "shared"}})
+        fs::create_directory_symlink(target, link, failed);
+    for (const char* name : {"copied.asp", "copied.gif"})
+        PutFile(sys / name, "[CV_TXT-A]");
     for (const char* name : {"copied.asp", "copied.gif", "hard.asp"})
         fs::create_hard_link(outside / "c.asp", fr / name, failed);
     fs::create_symlink(outside / "c.asp", fr / "soft.asp", failed);
     if (failed)
         GTEST_SKIP() << "this system makes no links: " << failed.message();
     Apply();
-    EXPECT_EQ(FileBytes(fr / "linked" / "b.asp"), kMark + "valeur");
+    for (const char* name : {"copied.asp", "hard.asp", "soft.asp", "linked/b.asp"})
+        EXPECT_EQ(FileBytes(fr / name), kMark + "valeur") << name;
     EXPECT_FALSE(fs::exists(fr / "back"));
     EXPECT_FALSE(fs::exists(fr / "linked" / "round"));
-    for (const char* name : {"copied.asp", "hard.asp", "soft.asp"})
-        EXPECT_EQ(FileBytes(fr / name), kMark + "valeur") << name;
     EXPECT_EQ(FileBytes(fr / "copied.gif"), "[CV_TXT-A]");
     EXPECT_EQ(FileBytes(outside / "c.asp"), "\r\n[CV_TXT-A]");
 }
@@ -176,8 +180,7 @@ TEST_F(ContentTree, AFolderIsNotCopiedOverAFileWhoseNameDiffersOnlyInCase) {
 }
 
 TEST_F(ContentTree, OnlyAScriptFileIsScriptThroughoutAndAMissingPageIsLogged) {
-    PageTranslator pages(fake.program,
-                         FindLanguageFolders(fake.config, {u"WebMail", u"default.net", u"French"}),
+    PageTranslator pages(fake.program, FindLanguageFolders(fake.config, kFrench),
                          {u"", u"[CV_TXT-A]"}, {u"", u"'"});
     for (const auto& [name, aware, result] :
          {std::tuple{"X.Js", true, "\\'"}, {"x.js", false, "'"}, {"xjs", true, "'"}}) {
@@ -186,8 +189,8 @@ TEST_F(ContentTree, OnlyAScriptFileIsScriptThroughoutAndAMissingPageIsLogged) {
         EXPECT_EQ(FileBytes(name), kMark + result) << name;
     }
     pages.TranslateFile(fake.folder / "none.asp", true);
-    EXPECT_TRUE(fake.ErrorLog().ends_with(
-        "\tError - could not find asp source: " + (fake.folder / "none.asp").string() + "\r\n"));
+    EXPECT_THAT(fake.ErrorLog(), testing::EndsWith("\tError - could not find asp source: " +
+                                                   (fake.folder / "none.asp").string() + "\r\n"));
 }
 
 TEST(LanguageFolders, EveryApplicationAndBaseHasItsPlace) {
@@ -209,6 +212,131 @@ TEST(LanguageFolders, EveryApplicationAndBaseHasItsPlace) {
     for (const auto& [sourceRoot, application, base, root] : cases) {
         registry.strings[u"Source Root"] = sourceRoot;
         EXPECT_EQ(fs::path(GetLanguageRoot(config, {application, base})), root);
+    }
+}
+
+/// An installation with a program; of the same seed, each is the same.
+class Installation {
+  public:
+    explicit Installation(std::uint32_t seed) : random_(seed) {
+        fake_.registry.numbers[u"Authoring Version"] = seed % 5 == 0 ? 1 : 2;
+        fs::create_directories(lang_);
+        for (const char* name : {"SYS", "EN", "fr", "outside"}) {
+            if (random_() % 4 != 0)
+                Fill(lang_ / name, 3);
+        }
+        PutFile("WebMail-default.net-lang.txt",
+                "French\tfr\r\nEnglish\ten\r\nRoot\t\r\nSame\tSYS\r\nInner\tSYS/in\r\n");
+        const std::u16string tokens[] = {
+            u"[CV_TXT-A]\tv'\r\n[CV_TXT-B]\tw", u"",
+            u"[CV_TXT-A]\t[CV_TXT-B]\r\nx[CV_TXT-B]\tx\r\n[CV_TXT-B]\t["};
+        for (const char* name : {"-fr.map", "-.map", ".fr"})
+            PutFile(std::string("WebMail-default.net-tokens") + name,
+                    Utf16Bytes(tokens[random_() % std::size(tokens)]));
+    }
+
+    void Generate(bool inOnePass) {
+        const Selection selection{
+            u"WebMail", u"default.net",
+            Pick({u"French", u"French", u"French", u"English", u"Root", u"Same", u"Inner"})};
+        for (auto runs = 1 + random_() % 2; runs > 0; --runs)
+            inOnePass ? void(ApplyTranslation(fake_.program, selection))
+                      : CopyAndTranslate(selection);
+    }
+
+    /// All that there is to see: entries with their kinds, permissions and contents; the log; use
+    /// counts; progress steps.
+    std::multiset<std::string> State() const {
+        const std::regex folder(fake_.folder.Path().string());
+        std::multiset<std::string> state{std::regex_replace(fake_.ErrorLog(), folder, ""),
+                                         "steps " + std::to_string(fake_.progress.steps)};
+        for (const std::int32_t count : fake_.program.tokenUseCounts)
+            state.insert("count " + std::to_string(count));
+        for (const fs::directory_entry& entry : fs::recursive_directory_iterator(lang_)) {
+            const fs::file_status status = entry.symlink_status();
+            const bool isFile = status.type() == fs::file_type::regular;
+            std::ostringstream text;
+            text << entry.path().lexically_relative(lang_) << int(status.type()) << ' '
+                 << int(status.permissions()) << ' ' << (isFile ? entry.hard_link_count() : 0)
+                 << ' ' << (isFile ? FileBytes(entry.path()) : "");
+            state.insert(text.str());
+        }
+        return state;
+    }
+
+  private:
+    template <typename Choice>
+    Choice Pick(std::initializer_list<Choice> choices) {
+        return choices.begin()[random_() % choices.size()];
+    }
+
+    void CopyAndTranslate(const Selection& selection) {
+        const LanguageFolders folders = FindLanguageFolders(fake_.config, selection);
+        Utf16File mapFile;
+        TextArray tokens(1);
+        TextArray values(1);
+        PrepareLanguageFolder(fake_.program, selection, 1);
+        LoadLanguageTokensIntoArrays(fake_.config, selection, mapFile, tokens, values);
+        PageTranslator pages(fake_.program, folders, tokens, values);
+        if (folders.areUsable)
+            TranslateFolder(folders.language, pages, true);
+    }
+
+    void Fill(const fs::path& folder, int depth) {
+        fs::create_directory(folder);
+        for (auto count = random_() % 7; count > 0; --count) {
+            const fs::path path = folder / Pick({"a.asp", "A.asp", "b.Js", "c.xml", "d.gif",
+                                                 "e.asp", "\xC3\xA9.asp", "in", "In", "FR", "SYS"});
+            if (fs::exists(fs::symlink_status(path)))
+                continue;
+            if (random_() % 10 == 0) {
+                Link(path);
+            } else if (!path.has_extension() && depth > 0) {
+                Fill(path, depth - 1);
+            } else {
+                std::string bytes;
+                for (auto pieces = random_() % 6; pieces > 0; --pieces)
+                    bytes += Pick({"[CV_TXT-A]", "[CV_TXT-B]", "x", "\r\n", "\n", "<script >"});
+                PutFile(path, bytes);
+                fs::permissions(path, Pick({fs::perms(0644), fs::perms(0600), fs::perms(0444)}));
+                files_.push_back(path);
+            }
+        }
+    }
+
+    void Link(const fs::path& path) {
+        std::error_code ignored;
+        if (files_.empty() || random_() % 3 == 0) {
+            fs::create_directory_symlink(lang_ / Pick({"SYS", "fr", "SYS/in", "fr/in", "outside"}),
+                                         path, ignored);
+        } else if (random_() % 2 == 0) {
+            fs::create_symlink(files_[random_() % files_.size()], path, ignored);
+        } else {
+            fs::create_hard_link(files_[random_() % files_.size()], path, ignored);
+        }
+    }
+
+    FakeProgram fake_;
+    std::mt19937 random_;
+    const fs::path lang_ = fake_.folder / "NETWebMail" / "default" / "lang";
+    std::vector<fs::path> files_;
+};
+
+TEST(WholeTrees, ComeToTheSameInOnePassAsByCopyingFirst) {
+    const char* const wanted = std::getenv("CVLANG_TREES");
+    const auto trees = static_cast<std::uint32_t>(wanted == nullptr ? 100 : std::atoi(wanted));
+    for (std::uint32_t seed = 1; seed <= trees; ++seed) {
+        const auto state = [&](bool inOnePass) {
+            Installation installation(seed);
+            installation.Generate(inOnePass);
+            return installation.State();
+        };
+        const auto actual = state(true);
+        const auto expected = state(false);
+        std::vector<std::string> different;
+        std::set_symmetric_difference(actual.begin(), actual.end(), expected.begin(),
+                                      expected.end(), std::back_inserter(different));
+        ASSERT_EQ(different, std::vector<std::string>()) << "seed " << seed;
     }
 }
 

@@ -39,25 +39,6 @@ TEST(PlaceholderSubstitution, MoreTokensThanCanBeNumberedEndAPageAtItsFirstPlace
     }
 }
 
-TEST(PlaceholderSubstitution, AScriptEndsWhereverInABlockOfThePageItsTagStands) {
-    for (std::size_t size = 40; size < 60; ++size) {
-        const std::string page = "<script >\n" + std::string(size, '<') + "</script>\n[CV_TXT-A]" +
-                                 std::string(300, ' ');
-        const auto result =
-            Substitute(page, {u"", u"[CV_TXT-A]"}, {u"", u"'"}, ScriptMode::Tracked);
-        EXPECT_EQ(result->text.find('\\'), std::string::npos) << size;
-    }
-}
-
-TEST(PlaceholderSubstitution, ATokenIsFoundThatIsThereOnlyBetweenTwoReplacements) {
-    for (const std::u16string_view between : {u"v[CV_TXT-B]", u"[CV_TXT-B]v", u"v[", u"]v"}) {
-        const auto result = Substitute("[CV_TXT-A][CV_TXT-B][CV_TXT-A]",
-                                       {u"", u"[CV_TXT-A]", between, u"[CV_TXT-B]"},
-                                       {u"", u"v", u"found", u""}, ScriptMode::Ignored);
-        EXPECT_NE(result->text.find("found"), std::string::npos);
-    }
-}
-
 // Few pieces, so that they meet in every way: tokens within tokens, values that bring or complete
 // placeholders, brackets left open, empty and repeated tokens, tokens of any other form; tags on
 // both sides of where a look at a block of the page ends, and what only resembles a tag.

@@ -132,7 +132,8 @@ wxImage ScreenPixels(const wxRect& place) {
     return {"screen", wxBITMAP_TYPE_BMP};
 }
 
-double Share(const wxImage& picture, bool (*counts)(int red, int blue)) {
+double ShareOf(const wxWindow& window, bool (*counts)(int red, int blue)) {
+    const wxImage picture = ScreenPixels(window.GetScreenRect());
     int counted = 0;
     for (int y = 0; y < picture.GetHeight(); ++y) {
         for (int x = 0; x < picture.GetWidth(); ++x)

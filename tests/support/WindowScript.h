@@ -51,8 +51,8 @@ void Type(wxWindow& parent, const wxString& box, const std::u16string& text);
 
 /// What the screen shows at a place.
 wxImage ScreenPixels(const wxRect& place);
-/// How much of a picture has colours that count: from 0 to 1.
-double Share(const wxImage& picture, bool (*counts)(int red, int blue));
+/// How much of a window has colours that count: from 0 to 1.
+double ShareOf(const wxWindow& window, bool (*counts)(int red, int blue));
 /// Black or nearly so, as texts are.
 inline bool IsDark(int red, int blue) {
     return red < 100 && blue < 100;

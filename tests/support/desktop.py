@@ -1,18 +1,13 @@
-"""Runs a command on a desktop of its own: an X display with a window manager, and a web server on this computer.
+"""Runs a command on a desktop of its own: an X display with a window manager.
 
-The display has the size that the variable SCREEN names; 800x600 is the smallest supported one. The command finds the web server as
-CORVANE_DISTRIBUTION_SERVER and the empty folder that it publishes as TEST_WEB_FOLDER, on TEST_DRIVE if there are drives.
-A command that succeeds fails all the same when the toolkit complains on standard error.
+The display has the size that the variable SCREEN names; 800x600 is the smallest supported one. A command that succeeds fails all the same when the toolkit complains on standard error.
 """
 import contextlib
-import functools
-import http.server
 import os
 import re
 import subprocess
 import sys
 import tempfile
-import threading
 
 
 @contextlib.contextmanager
@@ -35,16 +30,8 @@ def run(command, environment):
 
 
 screen = os.environ.get("SCREEN", "800x600") + "x24"
-with (tempfile.TemporaryDirectory() as folder,
-      server(r"\d", ["Xvfb", "-displayfd", "1", "-nolisten", "tcp", "-screen", "0", screen]) as display,
-      http.server.ThreadingHTTPServer(("127.0.0.1", 0), functools.partial(
-          http.server.SimpleHTTPRequestHandler, directory=folder)) as web):
-    environment = {"NO_AT_BRIDGE": "1", "LSAN_OPTIONS": f"suppressions={sys.path[0]}/library-leaks.txt"} | os.environ
+environment = {"NO_AT_BRIDGE": "1", "LSAN_OPTIONS": f"suppressions={sys.path[0]}/library-leaks.txt"} | os.environ
+with server(r"\d", ["Xvfb", "-displayfd", "1", "-nolisten", "tcp", "-screen", "0", screen]) as display:
     environment |= {"DISPLAY": f":{display}", "GDK_BACKEND": "x11"}
-    threading.Thread(target=web.serve_forever, daemon=True).start()
     with server("ready", ["openbox", "--startup", "echo ready"], env=environment):
-        status = run(sys.argv[1:], environment | {
-            "CORVANE_DISTRIBUTION_SERVER": f"127.0.0.1:{web.server_port}",
-            "TEST_WEB_FOLDER": os.environ.get("TEST_DRIVE", "") + folder})
-    web.shutdown()
-sys.exit(status)
+        sys.exit(run(sys.argv[1:], environment))

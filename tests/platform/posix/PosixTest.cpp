@@ -146,21 +146,5 @@ TEST(RegistryExport, ReadsUtf16Utf8AndAnsiWithAndWithoutAMark) {
         EXPECT_EQ(Value(file).text, u"\u00E9") << file;
 }
 
-// exported.reg was written by Wine's "reg export" for the values that are expected here.
-TEST(RegistryExport, WhatAnExporterWroteIsReadBack) {
-    constexpr std::u16string_view kCharacters = u"aB ;\"\\\u00E9\u3042\u017E\u00DF,=[]-";
-    std::u16string text;
-    for (std::size_t i = 0; i < 300; ++i)
-        text += kCharacters[i * i / 3 % kCharacters.size()];
-    const std::string file = FileBytes(EXPORTED_SETTINGS);
-    const auto value = [&file](std::u16string_view name) {
-        return FindInRegistryExport(file, u"SOFTWARE\\Corvane\\Corvane", name);
-    };
-    EXPECT_EQ(value(u"Expandable").text, text);
-    EXPECT_EQ(value(u"String").text, text);
-    EXPECT_EQ(value(u"Several").text, std::nullopt);
-    EXPECT_EQ(value(u"Number").number, -2);
-}
-
 }  // namespace
 }  // namespace cvlang
