@@ -63,10 +63,10 @@ void TokenIndex::Add(TokenNumber number, std::u16string_view token, std::u16stri
         empty_.push_back(number);
         return;
     }
-    std::vector<std::uint8_t> encoded;
-    EncodeUTF8(value, encoded);
-    const std::string_view bytes = BytesToString(encoded);
-    const bool hasQuotes = bytes.find_first_of("'\"") != std::string_view::npos;
+    encoded_.clear();
+    EncodeUTF8(value, encoded_);
+    const std::string_view bytes = BytesToString(encoded_);
+    const bool hasQuotes = std::ranges::any_of(bytes, [](char c) { return c == '\'' || c == '"'; });
     const bool dependsOnOrder =
         !ansi->starts_with(kPlaceholderPrefix) || bytes.find('[') != std::string_view::npos;
     IndexedToken& stored = tokens_.emplace_back(
@@ -88,22 +88,20 @@ std::string_view TokenIndex::Store(std::string_view text) {
 std::size_t TokenIndex::FindSlot(std::string_view token, std::size_t hash) const {
     const std::size_t mask = slots_.size() - 1;
     std::size_t slot = hash & mask;
-    while (slots_[slot].token != nullptr &&
-           (slots_[slot].hash != hash || slots_[slot].token->token != token))
+    while (slots_[slot] != nullptr && slots_[slot]->token != token)
         slot = (slot + 1) & mask;
     return slot;
 }
 
 void TokenIndex::AddGroup(IndexedToken& token) {
     hasOtherGroups_ = hasOtherGroups_ || !token.token.starts_with(kPlaceholderPrefix);
-    const std::size_t hash = kHash(token.token);
-    Slot& slot = slots_[FindSlot(token.token, hash)];
-    token.nextAlike = slot.token;
-    slot = {hash, &token};
+    const IndexedToken*& slot = slots_[FindSlot(token.token, kHash(token.token))];
+    token.nextAlike = slot;
+    slot = &token;
 }
 
 const IndexedToken* TokenIndex::FindGroup(std::string_view group, TokenNumber after) const {
-    const IndexedToken* token = slots_[FindSlot(group, kHash(group))].token;
+    const IndexedToken* token = slots_[FindSlot(group, kHash(group))];
     while (token != nullptr && token->number <= after)
         token = token->nextAlike;
     return token;
@@ -115,7 +113,7 @@ void TokenIndex::LookUp(std::string_view page, std::vector<BracketGroup>& groups
         __builtin_prefetch(&slots_[group.hash & (slots_.size() - 1)]);
     }
     for (BracketGroup& group : groups)
-        group.token = slots_[FindSlot(group.In(page), group.hash)].token;
+        group.token = slots_[FindSlot(group.In(page), group.hash)];
 }
 
 void TokenIndex::AddIrregular(IndexedToken& token) {

@@ -65,11 +65,6 @@ class TokenIndex {
     const std::vector<TokenNumber>& EmptyTokens() const { return empty_; }
 
   private:
-    struct Slot {
-        std::size_t hash = 0;
-        const IndexedToken* token = nullptr;  // the first one with this text
-    };
-
     void Add(TokenNumber number, std::u16string_view token, std::u16string_view value);
     std::string_view Store(std::string_view text);
     std::size_t FindSlot(std::string_view token, std::size_t hash) const;
@@ -80,12 +75,14 @@ class TokenIndex {
     TokenNumber upperBound_;
     std::string texts_;                 // of all tokens; never grows beyond its first capacity
     std::vector<IndexedToken> tokens_;  // the same holds for these
-    std::vector<Slot> slots_;           // a power of two, at least half of them free
+    // A hash table of the first tokens of their texts: a power of two, at least half of it free.
+    std::vector<const IndexedToken*> slots_;
     bool hasOtherGroups_ = false;
     std::vector<const IndexedToken*> irregular_;       // in order
     std::vector<std::string_view> loosePieces_;        // of those without a placeholder
     std::vector<std::string_view> placeholderStarts_;  // of the others; sorted, none begins another
     std::vector<TokenNumber> empty_;
+    std::vector<std::uint8_t> encoded_;  // of the last value that was added
 };
 
 }  // namespace cvlang
