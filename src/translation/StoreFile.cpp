@@ -85,7 +85,8 @@ void AppendOrThrow(const std::filesystem::path& path, std::string_view bytes) {
 void AppendTextOrThrow(const std::filesystem::path& path, std::u16string_view text) {
     std::error_code noFile;
     const std::uintmax_t size = std::filesystem::file_size(path, noFile);
-    if (!noFile && size % 2 != 0)
+    // Adding nothing shows whether the file is read-only, which resizing does not.
+    if (!noFile && size % 2 != 0 && !AppendToFile(path, {}))
         std::filesystem::resize_file(path, size - 1);
     AppendOrThrow(path, std::string(BytesOf(noFile ? u"\uFEFF" : u"")).append(BytesOf(text)));
 }

@@ -60,10 +60,24 @@ static int stop(void) {
         return faulty && (interrupted || !is_kind("interrupted")) ? stop() : REAL(name) arguments; \
     }
 FAULTY(int, mkdir, 1, 0, (const char* path, mode_t mode), (path, mode))
-FAULTY(int, unlinkat, 0, 0, (int folder, const char* path, int flags), (folder, path, flags))
+FAULTY(int, fchmod, 0, 0, (int file, mode_t mode), (file, mode))
+FAULTY(int, fchmodat, 0, 0, (int folder, const char* path, mode_t mode, int flags), (folder, path, mode, flags))
 FAULTY(int, renameat2, 0, 0, (int a, const char* from, int b, const char* to, unsigned flags), (a, from, b, to, flags))
 FAULTY(int, ftruncate, 0, 1, (int file, off_t size), (file, size))
-FAULTY(int, fsync, 1, 1, (int file), (file))
+
+// What was written to a file of the store and not flushed; without a fault nothing is deleted before it is flushed.
+static int unflushed;
+
+int fsync(int file) {
+    unflushed = 0;
+    return is_faulty(1) && !is_kind("short") ? stop() : REAL(fsync)(file);
+}
+
+int unlinkat(int folder, const char* path, int flags) {
+    if (unflushed && atoi(getenv("FAULT_AT")) == 0 && strstr(path, "tokens"))
+        abort();
+    return is_faulty(0) && !is_kind("short") && !is_kind("interrupted") ? stop() : REAL(unlinkat)(folder, path, flags);
+}
 
 int openat(int folder, const char* path, int flags, ...) {
     va_list mode;
@@ -77,6 +91,7 @@ ssize_t read(int file, void* to, size_t size) {
 }
 
 ssize_t write(int file, const void* from, size_t size) {
+    unflushed = 1;
     const int faulty = is_faulty(1);
     const int reason = errno;
     if (faulty && is_kind("interrupted"))

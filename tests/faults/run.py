@@ -92,16 +92,22 @@ try:
     shutil.copytree(used, again)
     for file in (again / LANG / "fr").rglob("*.*"):
         file.write_bytes(b"\xef\xbb\xbfearlier")
+        file.chmod(0o444)
     shutil.copytree(fresh, no_map)
     (no_map / MAP).unlink()
     untranslated, _ = run(no_map, generate)
     limited, _ = run(fresh, generate, preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (300, 300)))
     verify(limited != translated and check_pages(contents(fresh), limited, None, "full"), contents(fresh), limited, "ulimit")
     runs = every_fault(fresh, generate, check_pages) + every_fault(again, generate, check_pages)
-    for before in fresh, no_map:
-        runs += every_fault(before, [CHANGE, used / "Bin", "update"], check_update)
-    for name, check in ("add", check_growth), ("remove", check_removal), ("language", check_growth):
-        runs += every_fault(fresh, [CHANGE, used / "Bin", name], check)
+    changes = ("update", check_update), ("add", check_growth), ("remove", check_removal), ("language", check_growth)
+    for before, name, check in (no_map, *changes[0]), *((fresh, *change) for change in changes):
+        runs += every_fault(before, [CHANGE, used / "Bin", name], check)
     print(runs, "faults")
+    for file in (fresh / "Bin").glob("WebMail-default.net-*"):
+        file.write_bytes(file.read_bytes() + b"x")  # half a character
+        file.chmod(0o444)
+    for name, _ in changes:  # for root too
+        old, new = contents(fresh), run(fresh, [CHANGE, used / "Bin", name])[0]
+        verify(old.items() <= new.items(), old, new, "read-only", name)
 finally:
     shutil.rmtree(work)

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/Ansi.h"
-#include "platform/FileSystem.h"
+#include "platform/FileCopy.h"
 #include "platform/Process.h"
 #include "platform/Registry.h"
 #include "platform/SystemInformation.h"
@@ -16,6 +16,8 @@
 
 namespace cvlang {
 namespace {
+
+namespace fs = std::filesystem;
 
 TEST(FindExisting, FindsAnEntryAsWindowsWould) {
     const TemporaryFolder folder;
@@ -48,6 +50,33 @@ TEST(FileSystem, OpeningAPipeDoesNotWaitAndAReadOnlyFileIsUnchangedForRootToo) {
     }
     EXPECT_FALSE(RemoveFile("locked"));
     EXPECT_EQ(FileBytes("locked"), "mine");
+}
+
+TEST(FileCopy, NothingChangesThroughALinkAndNoFileIsMoreOpenThanWhatWasRead) {
+    const TemporaryFolder folder;
+    const Folder here(folder.Path());
+    const auto mode = [](const char* name) { return int(fs::status(name).permissions()); };
+    PutFile("private", "mine");
+    fs::permissions("private", fs::perms::owner_read);
+    fs::create_symlink("private", "soft");
+    fs::create_hard_link("private", "hard");
+    FileContent content;
+    ReadFile("private", content);
+    const std::tuple<const char*, bool, bool> cases[] = {// as if it appeared meanwhile, first
+                                                         {"soft", false, false},
+                                                         {"hard", false, false},
+                                                         {"soft", true, true},
+                                                         {"hard", true, true},
+                                                         {"new", false, true}};
+    for (const auto& [name, exists, written] : cases) {
+        ResetAttributes(here, name);
+        const fs::path file = name;
+        const CopiedFile copy{here, "private", here, {file, exists}, CopiedAttributes::Archive};
+        EXPECT_EQ(WritePage(copy, "page", content), written) << name;
+        EXPECT_EQ(mode(name), written ? 0600 : 0400) << name;
+        EXPECT_EQ(mode("private"), 0400) << name;
+        EXPECT_EQ(FileBytes("private"), "mine") << name;
+    }
 }
 
 TEST(SystemRegistry, ReadsTheNamedFileUnlessItIsAPipeOrLarge) {
