@@ -40,10 +40,11 @@ exit /b %status%
 :run
 echo Running %1 ...
 %1 >>report.txt 2>&1
-if errorlevel 1 (
+rem Not "if errorlevel 1": a crash has a negative status.
+if %errorlevel% equ 0 (
+    echo == %1: passed >>report.txt
+) else (
     set status=1
     echo == %1: FAILED >>report.txt
-) else (
-    echo == %1: passed >>report.txt
 )
 exit /b 0

@@ -56,10 +56,12 @@ TEST(FileCopy, NothingChangesThroughALinkAndNoFileIsMoreOpenThanWhatWasRead) {
     const TemporaryFolder folder;
     const Folder here(folder.Path());
     const auto mode = [](const char* name) { return int(fs::status(name).permissions()); };
-    PutFile("private", "mine");
-    fs::permissions("private", fs::perms::owner_read);
+    for (const char* name : {"private", "shared"}) {
+        PutFile(name, "mine");
+        fs::permissions(name, fs::perms::owner_read);
+    }
     fs::create_symlink("private", "soft");
-    fs::create_hard_link("private", "hard");
+    fs::create_hard_link("shared", "hard");
     FileContent content;
     ReadFile("private", content);
     const std::tuple<const char*, bool, bool> cases[] = {// as if it appeared meanwhile, first
@@ -74,8 +76,8 @@ TEST(FileCopy, NothingChangesThroughALinkAndNoFileIsMoreOpenThanWhatWasRead) {
         const CopiedFile copy{here, "private", here, {file, exists}, CopiedAttributes::Archive};
         EXPECT_EQ(WritePage(copy, "page", content), written) << name;
         EXPECT_EQ(mode(name), written ? 0600 : 0400) << name;
-        EXPECT_EQ(mode("private"), 0400) << name;
-        EXPECT_EQ(FileBytes("private"), "mine") << name;
+        EXPECT_EQ(mode("private") | mode("shared"), 0400) << name;
+        EXPECT_EQ(FileBytes("private") + FileBytes("shared"), "minemine") << name;
     }
 }
 
