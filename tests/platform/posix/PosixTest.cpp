@@ -56,26 +56,24 @@ TEST(FileCopy, NothingChangesThroughALinkAndNoFileIsMoreOpenThanWhatWasRead) {
     const TemporaryFolder folder;
     const Folder here(folder.Path());
     const auto mode = [](const char* name) { return int(fs::status(name).permissions()); };
-    for (const char* name : {"private", "shared"}) {
+    for (const char* name : {"private", "shared", "own"}) {
         PutFile(name, "mine");
-        fs::permissions(name, fs::perms::owner_read);
+        fs::permissions(name, fs::perms(name == std::string("own") ? 0640 : 0400));
     }
     fs::create_symlink("private", "soft");
     fs::create_hard_link("shared", "hard");
     FileContent content;
     ReadFile("private", content);
-    const std::tuple<const char*, bool, bool> cases[] = {// as if it appeared meanwhile, first
-                                                         {"soft", false, false},
-                                                         {"hard", false, false},
-                                                         {"soft", true, true},
-                                                         {"hard", true, true},
-                                                         {"new", false, true}};
-    for (const auto& [name, exists, written] : cases) {
-        ResetAttributes(here, name);
+    const std::tuple<const char*, bool, bool, int> cases[] = {
+        {"soft", false, false, 0400},  // it appeared meanwhile
+        {"hard", false, false, 0400}, {"soft", true, true, 0600}, {"hard", true, true, 0600},
+        {"new", false, true, 0600},   {"own", true, true, 0640}};
+    for (const auto& [name, exists, written, after] : cases) {
         const fs::path file = name;
+        ResetAttributes(here, file);
         const CopiedFile copy{here, "private", here, {file, exists}, CopiedAttributes::Archive};
         EXPECT_EQ(WritePage(copy, "page", content), written) << name;
-        EXPECT_EQ(mode(name), written ? 0600 : 0400) << name;
+        EXPECT_EQ(mode(name), after) << name;
         EXPECT_EQ(mode("private") | mode("shared"), 0400) << name;
         EXPECT_EQ(FileBytes("private") + FileBytes("shared"), "minemine") << name;
     }
