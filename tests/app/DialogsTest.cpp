@@ -111,7 +111,7 @@ TEST_F(Dialogs, TheDefaultTranslationComesFromTheDistributionServer) {
         Utf16Bytes(u"[CV_TXT-HELLO]\tSalut\r\n" + std::u16string(5000, u'\0'));
     WebPeer server("HTTP/1.0 200 OK\r\n\r\n" + published);
     Pick(Window({{u"127.0.0.1", server.Port()}, {}}), kLanguages, u"French");
-    for (const int answer : {wxID_NO, wxID_YES}) {
+    for (const int answer : {wxID_NO, wxID_CANCEL, wxID_YES}) {
         EXPECT_NE(FileBytes(kFrenchMap), published);
         script_.ExpectBox("Update Language File: WebMail[default.net]", question,
                           wxYES_NO | wxICON_QUESTION, answer);

@@ -44,7 +44,8 @@ class MainWindow : public testing::Test {
   protected:
     MainWindow() {
         PutFile("NETWebMail/default/lang/SYS/Login.aspx", "[CV_TXT-HELLO]\r\n");
-        PutFile("NETWebMail/zephra/x", "");
+        for (const char* base : {"zephra", "Kesto", "ENTERPRISE", "other"})
+            PutFile(std::string("NETWebMail/") + base, "");
         PutFile(kReferenceMap, Utf16Bytes(u"\t\t\t[CV_TXT-HELLO]\tHello: you\r\n"
                                           u"\t\t\t[CV_TXT-BYE]\tGoodbye\r\n"
                                           u"\t\t\tCV_OTHER\tno token\r\n\r\n"

@@ -14,7 +14,8 @@ namespace {
 
 TEST_F(MainWindow, OpensWithNoLanguageAndListsTokensWhenOneIsClicked) {
     EXPECT_EQ(Entries(kApplicationList), List({u"WebMail", u"WebAdmin"}));
-    EXPECT_EQ(Entries(kBases), List({u"default.net", u"zephra.net"}));
+    EXPECT_EQ(Entries(kBases),
+              List({u"default.net", u"enterprise.net", u"zephra.net", u"kesto.net"}));
     EXPECT_EQ(Entries(kLanguages).size(), 13U);
     EXPECT_EQ(Entries(kTokens), List());
     EXPECT_NE(Find<wxWindow>(Window(), "Label7").GetLabel().Find("modificatons"), wxNOT_FOUND);
@@ -77,6 +78,7 @@ TEST_F(MainWindow, SavesWhatIsTypedAndNothingElse) {
 
 TEST_F(MainWindow, AppliesATranslationAndSaysSoWhateverHappened) {
     Pick(Window(), kLanguages, u"French");
+    program_.progress = &fake_.progress;
     for (const wxString& language :
          {wxString("French"), wxString()}) {  // the second time without one, and no pages
         script_.ExpectBox(
@@ -90,6 +92,7 @@ TEST_F(MainWindow, AppliesATranslationAndSaysSoWhateverHappened) {
                   "Bonjour");
         Pick(Window(), kBases, u"zephra.net");
     }
+    EXPECT_EQ(std::pair(fake_.progress.begun, fake_.progress.ended), std::pair(2, 2));
 }
 
 TEST_F(MainWindow, WorksWithoutAnyBase) {
@@ -219,10 +222,12 @@ TEST_F(MainWindowInput, WalkThroughAllControlsWithoutClickingAnything) {
 }
 
 TEST_F(MainWindowInput, SaveFindAndMoveOn) {
+    PutFile(kFrenchMap, FileBytes(kFrenchMap) +
+                            Utf16Bytes(u"[CV_TXT-NEW]\t\r\n[CV_TXT-NEW]\tlater\r\n").substr(2));
     Pick(Window(), kLanguages, u"French");
     Find<wxWindow>(Window(), kTranslation).SetFocus();
     Find<TextBox>(Window(), kTranslation).SetInsertionPointEnd();
-    for (const char* wanted : {"O", "BYE"}) {
+    for (const char* wanted : {"o", "cv_txt-b"}) {
         script_.ExpectDialog("Find", [wanted](wxDialog& dialog) {
             dynamic_cast<wxTextEntryDialog&>(dialog).SetValue(wanted);
             dialog.EndModal(wxID_OK);
@@ -252,8 +257,9 @@ TEST_F(MainWindowInput, SaveFindAndMoveOn) {
         EXPECT_EQ(Selected(kTokens), token) << input;
         EXPECT_EQ(Translation(), text) << input;
     }
-    EXPECT_EQ(FileBytes(kFrenchMap), Utf16Bytes(u"[CV_TXT-HELLO]\tBonjourcd\r\n"
-                                                u"[CV_TXT-BYE]\tAu revoir\r\n[CV_TXT-NEW]\t\r\n"));
+    EXPECT_EQ(FileBytes(kFrenchMap),
+              Utf16Bytes(u"[CV_TXT-HELLO]\tBonjourcd\r\n"
+                         u"[CV_TXT-BYE]\tAu revoir\r\n[CV_TXT-NEW]\t\r\n[CV_TXT-NEW]\t\r\n"));
 }
 
 TEST_F(MainWindowInput, PasteOnOneLine) {

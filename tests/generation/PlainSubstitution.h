@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,34 +32,24 @@ inline void ReplaceAll(std::string& text, const std::string& what, const std::st
         text.replace(i, what.size(), by);
 }
 
-inline std::vector<std::string> SplitLines(std::string page) {
-    ReplaceAll(page, "\r\n", "\n");
-    ReplaceAll(page, "\r", "\n");
-    std::vector<std::string> lines;
-    std::istringstream rest(page);
-    for (std::string line; std::getline(rest, line);)
-        lines.push_back(line);
-    return lines;
-}
-
-inline bool Holds(const std::string& text, const std::string& what) {
-    return text.find(what) != text.npos;
-}
-
-inline bool HoldsTag(const std::string& line, const std::string& lowerTag) {
-    return Holds(ToLowerCase(line), lowerTag);
-}
-
 inline Page Substitute(const std::string& page, const TextArray& tokens, const TextArray& values,
                        ScriptMode mode) {
     Page result{{}, std::vector<std::int32_t>(tokens.size())};
     bool inScript = mode == ScriptMode::Always;
-    for (std::string& line : SplitLines(page)) {
+    Lines<char> lines(page);
+    for (std::string_view start; lines.Next(start);) {
+        std::string line(start);
+        const auto holds = [&line](const std::string& text) {
+            return line.find(text) != line.npos;
+        };
+        const auto holdsTag = [&line](std::string_view tag) {
+            return FindIgnoringCase(line, tag) != line.npos;
+        };
         if (mode == ScriptMode::Tracked)
-            inScript = !HoldsTag(line, "</script>") && (inScript || HoldsTag(line, "<script "));
-        for (std::size_t i = 1; i < tokens.size() && Holds(line, "[CV_TXT-"); ++i) {
+            inScript = !holdsTag("</script>") && (inScript || holdsTag("<script "));
+        for (std::size_t i = 1; i < tokens.size() && holds("[CV_TXT-"); ++i) {
             const auto token = Utf16ToAnsiExactly(tokens[i]);
-            if (!token || !Holds(line, *token))
+            if (!token || !holds(*token))
                 continue;
             std::string value = Encode(values[i]);
             if (inScript) {

@@ -9,13 +9,6 @@ namespace {
 
 using namespace std::string_literals;
 
-TEST(Submission, TheMessageTellsWhatIsAttached) {
-    EXPECT_EQ(SubmissionBody({u"WebMail", u"default.net", u"French"}),
-              u"Dear Support Team,\r\n\r\nI have attached the language token files for the "
-              u"following: \r\n\r\nApplication: \tWebMail\r\nBase: \t\tdefault.net\r\n"
-              u"Language: \t\tFrench\r\n\r\nRegards,\r\n");
-}
-
 TEST(Submission, AllMapFilesOfTheBaseAreFoundByTheirExactName) {
     const TemporaryFolder folder;
     const auto reference = folder / "A-b.net-tokens.map";

@@ -12,8 +12,6 @@
 
 #include <deque>
 #include <functional>
-#include <stdexcept>
-#include <string>
 
 #include "widgets/SelectionList.h"
 #include "widgets/TextBox.h"
@@ -34,10 +32,7 @@ wxWindow& FindByText(wxWindow& parent, const wxString& text);
 
 template <typename Window>
 Window& Find(wxWindow& parent, const wxString& text) {
-    auto* found = dynamic_cast<Window*>(&FindByText(parent, text));
-    if (found == nullptr)
-        throw std::runtime_error("Another kind of control: " + text.utf8_string());
-    return *found;
+    return dynamic_cast<Window&>(FindByText(parent, text));
 }
 
 /// Presses a button, which must be enabled and inside the screen.

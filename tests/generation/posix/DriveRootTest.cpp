@@ -17,9 +17,7 @@ constexpr int kCannotChangeRoot = 77;
 int GenerateAtRoot(const char16_t* language) {
     const pid_t child = fork();
     if (child == 0) {
-        if (geteuid() != 0 && unshare(CLONE_NEWUSER) != 0)
-            _exit(kCannotChangeRoot);
-        if (chroot(".") != 0)
+        if ((geteuid() != 0 && unshare(CLONE_NEWUSER) != 0) || chroot(".") != 0)
             _exit(kCannotChangeRoot);
         FakeRegistry registry;
         registry.numbers[u"Authoring Version"] = 2;
@@ -42,9 +40,7 @@ TEST(DriveRoot, IsTheLanguageRootOfAnUnknownBaseAndLeftAloneForAnUnknownLanguage
     if (status == kCannotChangeRoot)
         GTEST_SKIP() << "this process may not change its root folder";
     EXPECT_EQ(status, 0);
-    EXPECT_EQ(FileBytes("page.asp"), "page");
     EXPECT_EQ(FileBytes("SYS/page.asp"), "reference");
-
     EXPECT_EQ(GenerateAtRoot(u"French"), 0);
     EXPECT_EQ(FileBytes("fr/page.asp"), "\xEF\xBB\xBFreference");
     EXPECT_EQ(FileBytes("page.asp"), "page");

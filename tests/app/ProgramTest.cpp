@@ -1,12 +1,10 @@
-// What the program does without a display: its command line, its servers, and what the window does
-// behind its controls.
+// What the program does without a display: its command line and its servers.
 #include <gmock/gmock.h>
 
 #include <cstdlib>
 
 #include "app/CommandLine.h"
 #include "app/MakerServices.h"
-#include "app/Operations.h"
 #include "platform/Ansi.h"
 #include "support/FakeProgram.h"
 
@@ -100,45 +98,6 @@ TEST(MakerServices, AreTheBuiltInOnesUnlessTheEnvironmentNamesOthers) {
         EXPECT_EQ(NamedServers(text, text),
                   Servers(start + u"DISTRIBUTION" + end, start + u"SUBMISSION" + end));
     }
-}
-
-TEST(Operations, BasesAreDetectedByTheirFoldersInAFixedOrder) {
-    const FakeProgram fake;
-    EXPECT_TRUE(DetectBases(fake.config, kProbedApplication).empty());
-    for (const char* name : {"Kesto", "zephra", "ENTERPRISE", "other", "default"})
-        PutFile(fake.folder / "NETWebMail" / name, "");
-    EXPECT_EQ(DetectBases(fake.config, kProbedApplication),
-              (std::vector<std::u16string>{u"default.net", u"enterprise.net", u"zephra.net",
-                                           u"kesto.net"}));
-}
-
-TEST(Operations, GoesOnBehindTheSelectedEntryAndLooksAtItLast) {
-    const std::vector<std::u16string> entries{u"[CV_A]: \u00C9t\u00E9", u"[CV_B]: b", u"[CV_C]: a"};
-    const std::tuple<std::optional<std::size_t>, std::u16string, std::optional<std::size_t>>
-        cases[] = {{std::nullopt, u"[cv_", 0}, {0, u"[cv_", 1},   {2, u"[cv_", 0},
-                   {1, u"\u00E9T\u00C9", 0},   {0, u"\u00E9", 0}, {0, u"none", std::nullopt}};
-    for (const auto& [selected, text, found] : cases)
-        EXPECT_EQ(FindEntry(entries, selected, text), found);
-}
-
-TEST(Operations, ATokenIsUntranslatedWhileItsFirstLineHasNoValue) {
-    const FakeProgram fake;
-    PutFile("WebMail-default.net-tokens-fr.map",
-            Utf16Bytes(u"[CV_A]\ta\r\n[CV_B]\t\r\n[CV_B]\tlater\r\n[CV_D]\td"));
-    const std::vector<std::u16string> entries{u"[CV_A]: A", u"[CV_B]: B", u"[CV_C]", u"[CV_D]"};
-    const Selection french{u"WebMail", u"default.net", u"French"};
-    EXPECT_EQ(FindUntranslated(fake.program, entries, 0, french), 1U);
-    EXPECT_EQ(FindUntranslated(fake.program, entries, 1, french), 2U);
-    EXPECT_EQ(FindUntranslated(fake.program, entries, 2, french), 1U);
-}
-
-TEST(Operations, ApplyingRecordsTheLanguageAndReportsSuccessInAnyCase) {
-    FakeProgram fake;
-    for (const char16_t* language : {u"French", u"Klingon"})  // the second has no abbreviation
-        GenerateLanguage(fake.program, {u"WebMail", u"default.net", language});
-    EXPECT_EQ(FileBytes("LANGUAGES.TAB"), Utf16Bytes(u"fr\tFrench\r\n"));
-    EXPECT_EQ(std::pair(fake.progress.begun, fake.progress.ended), std::pair(2, 2));
-    EXPECT_EQ(fake.messages.shown.size(), 2U);
 }
 
 }  // namespace
