@@ -9,8 +9,7 @@
 #include "app/MainWindowFixture.h"
 #include "widgets/Text.h"
 
-namespace cvlang {
-namespace {
+namespace cvlang::tests {
 
 TEST_F(MainWindow, OpensWithNoLanguageAndListsTokensWhenOneIsClicked) {
     EXPECT_EQ(Entries(kApplicationList), List({u"WebMail", u"WebAdmin"}));
@@ -277,5 +276,4 @@ TEST_F(MainWindowInput, PasteOnOneLine) {
     }
 }
 
-}  // namespace
-}  // namespace cvlang
+}  // namespace cvlang::tests

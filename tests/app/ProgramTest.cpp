@@ -8,8 +8,7 @@
 #include "platform/Ansi.h"
 #include "support/FakeProgram.h"
 
-namespace cvlang {
-namespace {
+namespace cvlang::tests {
 
 /// Runs the program on an installation. `arguments` are written as a shell takes them.
 int RunProgram(const std::filesystem::path& installation, const std::string& arguments) {
@@ -100,5 +99,4 @@ TEST(MakerServices, AreTheBuiltInOnesUnlessTheEnvironmentNamesOthers) {
     }
 }
 
-}  // namespace
-}  // namespace cvlang
+}  // namespace cvlang::tests

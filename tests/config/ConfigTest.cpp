@@ -4,8 +4,7 @@
 #include "support/FakeProgram.h"
 #include "text/Strings.h"
 
-namespace cvlang {
-namespace {
+namespace cvlang::tests {
 
 TEST(Configuration, EveryCallReadsTheRegistryAndMissingValuesReadAsDefaults) {
     FakeRegistry registry;
@@ -66,5 +65,4 @@ TEST(TextHelpers, CountFieldsStopsAtFiftyAndGetStringBetweenNeedsBothMarkers) {
     EXPECT_EQ(GetStringBetween(u"</a><a>y", u"<a>", u"</a>"), u"");
 }
 
-}  // namespace
-}  // namespace cvlang
+}  // namespace cvlang::tests

@@ -14,8 +14,7 @@
 #include "generation/PageTranslator.h"
 #include "support/FakeProgram.h"
 
-namespace cvlang {
-namespace {
+namespace cvlang::tests {
 
 namespace fs = std::filesystem;
 
@@ -340,5 +339,4 @@ TEST(WholeTrees, ComeToTheSameInOnePassAsByCopyingFirst) {
     }
 }
 
-}  // namespace
-}  // namespace cvlang
+}  // namespace cvlang::tests

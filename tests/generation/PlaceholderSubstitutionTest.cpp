@@ -7,8 +7,7 @@
 
 #include "generation/PlainSubstitution.h"
 
-namespace cvlang {
-namespace {
+namespace cvlang::tests {
 
 /// Nothing when the page is given up.
 std::optional<plain::Page> Substitute(std::string_view page, const TextArray& tokens,
@@ -89,5 +88,4 @@ TEST(PlaceholderSubstitution, ComesToTheSameAsThePlainProcedure) {
     }
 }
 
-}  // namespace
-}  // namespace cvlang
+}  // namespace cvlang::tests

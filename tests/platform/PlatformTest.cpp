@@ -11,8 +11,7 @@
 #include "support/Files.h"
 #include "text/Unicode.h"
 
-namespace cvlang {
-namespace {
+namespace cvlang::tests {
 
 TEST(ProcessLock, IsWaitedForHoweverTheFolderIsSpelt) {
     const TemporaryFolder folder;
@@ -60,5 +59,4 @@ TEST(Utf8, EveryTextConvertsBackIncludingLoneSurrogates) {
     EXPECT_EQ(Utf16ToUtf8(u"\u00E9\u3042\U0001F600"), "\xC3\xA9\xE3\x81\x82\xF0\x9F\x98\x80");
 }
 
-}  // namespace
-}  // namespace cvlang
+}  // namespace cvlang::tests

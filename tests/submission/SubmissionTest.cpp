@@ -4,8 +4,7 @@
 
 #include "support/Files.h"
 
-namespace cvlang {
-namespace {
+namespace cvlang::tests {
 
 using namespace std::string_literals;
 
@@ -49,5 +48,4 @@ TEST(Submission, LinesOfTheBodyEndWithCrLfAndHeadersHoldNoControls) {
     EXPECT_EQ(WithoutControls(u"a\x01z\x1F @\0b\u00E9"s), u"a z  @ b\u00E9");
 }
 
-}  // namespace
-}  // namespace cvlang
+}  // namespace cvlang::tests

@@ -9,8 +9,7 @@
 #include "translation/TokenEditing.h"
 #include "translation/TokenMapFile.h"
 
-namespace cvlang {
-namespace {
+namespace cvlang::tests {
 
 namespace fs = std::filesystem;
 
@@ -231,5 +230,4 @@ TEST(TokenMapFile, TokensAreListedWithTheirEnglishValues) {
     EXPECT_EQ(entry.value, u"Hello");
 }
 
-}  // namespace
-}  // namespace cvlang
+}  // namespace cvlang::tests

@@ -8,8 +8,7 @@
 #include "generation/ContentTree.h"
 #include "support/FakeProgram.h"
 
-namespace cvlang {
-namespace {
+namespace cvlang::tests {
 
 constexpr int kCannotChangeRoot = 77;
 
@@ -46,5 +45,4 @@ TEST(DriveRoot, IsTheLanguageRootOfAnUnknownBaseAndLeftAloneForAnUnknownLanguage
     EXPECT_EQ(FileBytes("page.asp"), "page");
 }
 
-}  // namespace
-}  // namespace cvlang
+}  // namespace cvlang::tests

@@ -14,8 +14,7 @@
 #include "support/Files.h"
 #include "text/Unicode.h"
 
-namespace cvlang {
-namespace {
+namespace cvlang::tests {
 
 namespace fs = std::filesystem;
 
@@ -175,5 +174,4 @@ TEST(RegistryExport, ReadsUtf16Utf8AndAnsiWithAndWithoutAMark) {
         EXPECT_EQ(Value(file).text, u"\u00E9") << file;
 }
 
-}  // namespace
-}  // namespace cvlang
+}  // namespace cvlang::tests
