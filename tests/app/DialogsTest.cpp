@@ -2,8 +2,8 @@
 
 #include "app/MainWindowFixture.h"
 #include "app/frmWait.h"
-#include "mail/ScriptedPeer.h"
 #include "platform/FileSystem.h"
+#include "support/LoopbackPeer.h"
 #include "widgets/Text.h"
 
 namespace cvlang::tests {
@@ -193,7 +193,7 @@ TEST_F(Submitting, SendsWhatTheUserSeesOnceHeAgrees) {
         EXPECT_NE(mail.find(part), std::string::npos) << part << " in " << mail;
 }
 
-TEST_F(Submitting, ReportsSuccessThoughTheServerRefuses) {
+TEST_F(Submitting, ReportsSuccessThoughTheServerRefusesAndWhenThereIsNothingToSend) {
     ScriptedPeer refusing("421 closed");
     script_.ExpectDialog("Submit Language Files", [](wxDialog& dialog) {
         EXPECT_EQ(Find<TextBox>(dialog, "Subject:").GetValue(),
@@ -205,6 +205,12 @@ TEST_F(Submitting, ReportsSuccessThoughTheServerRefuses) {
     Choose(WindowWith(refusing), "Submit", "Submit All Translations");
     EXPECT_THAT(fake_.ErrorLog(),
                 testing::EndsWith("\tSMTP Server is not contactable for domain: 127.0.0.1\r\n"));
+    std::filesystem::remove(folder_ / kReferenceMap);
+    std::filesystem::remove(folder_ / kFrenchMap);
+    script_.ExpectBox("Send Error",
+                      "No translated files for the default.netbase were available to send.",
+                      kInformation);
+    Choose(Window(), "Submit", "Submit All Translations");
 }
 
 struct FailingWait : WaitWindow {
@@ -226,15 +232,6 @@ TEST_F(Submitting, SurvivesAnErrorAmidTheMail) {
     });
     ExpectQuestion(wxID_YES);
     script_.ExpectBox("CVLangTranslator", "No memory left", kCritical);
-    Choose(Window(), "Submit", "Submit All Translations");
-}
-
-TEST_F(Submitting, TellsThatThereIsNothingToSend) {
-    std::filesystem::remove(folder_ / kReferenceMap);
-    std::filesystem::remove(folder_ / kFrenchMap);
-    script_.ExpectBox("Send Error",
-                      "No translated files for the default.netbase were available to send.",
-                      kInformation);
     Choose(Window(), "Submit", "Submit All Translations");
 }
 

@@ -32,14 +32,6 @@ inline constexpr const char* kReferenceMap = "WebMail-default.net-tokens.map";
 inline constexpr const char* kFrenchMap = "WebMail-default.net-tokens-fr.map";
 inline constexpr const char* kLanguageList = "WebMail-default.net-lang.txt";
 
-/// No box comes while patience is asked for.
-struct WatchedBoxes : MessageBoxes {
-    MessageAnswer Show(const UserMessage& message) override {
-        EXPECT_EQ(wxWindow::FindWindowByName("frmWait"), nullptr);
-        return MessageBoxes::Show(message);
-    }
-};
-
 class MainWindow : public testing::Test {
   protected:
     MainWindow() {
@@ -88,7 +80,7 @@ class MainWindow : public testing::Test {
     const List& Entries(const char* list) { return Find<SelectionList>(Window(), list).Entries(); }
 
     FakeProgram fake_;
-    WatchedBoxes boxes_;
+    MessageBoxes boxes_;
     Program program_{fake_.config, fake_.logs, boxes_};
     WindowScript script_;
     wxWeakRef<frmMain> window_;

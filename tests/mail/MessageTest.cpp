@@ -5,12 +5,12 @@
 #include <array>
 #include <regex>
 
-#include "ScriptedPeer.h"
 #include "mail/Base64.h"
 #include "mail/MailError.h"
 #include "mail/SmtpDialogue.h"
 #include "platform/Ansi.h"
 #include "support/FakeProgram.h"
+#include "support/LoopbackPeer.h"
 
 namespace cvlang::tests {
 

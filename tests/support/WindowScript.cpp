@@ -18,18 +18,12 @@
 namespace cvlang {
 namespace {
 
-/// The control that a window's text names, if it is that text.
-wxWindow* NamedBy(wxWindow& window, const wxString& text) {
-    if (!window.IsShownOnScreen() || window.GetLabel() != text)
-        return nullptr;
-    return dynamic_cast<wxStaticText*>(&window) == nullptr ? &window : window.GetNextSibling();
-}
-
+/// The control whose text, or the label before it, is this text.
 wxWindow* FindBelow(wxWindow& parent, const wxString& text) {
     for (wxWindow* child : parent.GetChildren()) {
-        wxWindow* found = NamedBy(*child, text);
-        if (found == nullptr && !child->IsTopLevel())
-            found = FindBelow(*child, text);
+        if (child->IsShownOnScreen() && child->GetLabel() == text)
+            return dynamic_cast<wxStaticText*>(child) == nullptr ? child : child->GetNextSibling();
+        wxWindow* found = child->IsTopLevel() ? nullptr : FindBelow(*child, text);
         if (found != nullptr)
             return found;
     }
@@ -152,6 +146,7 @@ void WindowScript::ExpectBox(const wxString& title, const wxString& text, long s
         constexpr long kAskedFor = wxYES_NO | wxOK | wxCANCEL | wxICON_MASK;
         const auto* box = dynamic_cast<wxMessageDialogBase*>(&dialog);
         EXPECT_EQ(dialog.GetTitle(), title);
+        EXPECT_EQ(wxWindow::FindWindowByName("frmWait"), nullptr);  // nobody is asked for patience
         EXPECT_EQ(box == nullptr ? "not a message box" : box->GetMessage(), text);
         EXPECT_EQ(box == nullptr ? -1 : box->GetMessageDialogStyle() & kAskedFor, style) << text;
         return answer;
