@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <array>
 #include <regex>
 
@@ -202,6 +203,14 @@ TEST(Message, EveryContentHasItsLayout) {
         }
         EXPECT_EQ(TextFrom(mail.message, "MIME-Version"), text);
     }
+}
+
+TEST(Message, ALargeAttachmentIsWhole) {
+    MailFixture mail;
+    PutFile("large", std::string(5700000, '\0'));
+    mail.message.AddAttachment("large", "");
+    const std::string text = mail.message.ComposeText();
+    EXPECT_EQ(std::count(text.begin(), text.end(), 'A') / 76, 100000);
 }
 
 TEST(Message, WithoutAnyFileInTheCurrentFolderAttachmentsAreAnnounced) {
