@@ -65,16 +65,16 @@ FAULTY(int, fchmodat, 0, 0, (int folder, const char* path, mode_t mode, int flag
 FAULTY(int, renameat2, 0, 0, (int a, const char* from, int b, const char* to, unsigned flags), (a, from, b, to, flags))
 FAULTY(int, ftruncate, 0, 1, (int file, off_t size), (file, size))
 
-// What was written to a file of the store and not flushed; without a fault nothing is deleted before it is flushed.
-static int unflushed;
+// Whether what was written is on the disk. Without a fault no map file is deleted before.
+static int is_flushed;
 
 int fsync(int file) {
-    unflushed = 0;
+    is_flushed = 1;
     return is_faulty(1) && !is_kind("short") ? stop() : REAL(fsync)(file);
 }
 
 int unlinkat(int folder, const char* path, int flags) {
-    if (unflushed && atoi(getenv("FAULT_AT")) == 0 && strstr(path, "tokens"))
+    if (!is_flushed && atoi(getenv("FAULT_AT")) == 0 && strstr(path, "-tokens"))
         abort();
     return is_faulty(0) && !is_kind("short") && !is_kind("interrupted") ? stop() : REAL(unlinkat)(folder, path, flags);
 }
@@ -91,7 +91,7 @@ ssize_t read(int file, void* to, size_t size) {
 }
 
 ssize_t write(int file, const void* from, size_t size) {
-    unflushed = 1;
+    is_flushed = 0;
     const int faulty = is_faulty(1);
     const int reason = errno;
     if (faulty && is_kind("interrupted"))
