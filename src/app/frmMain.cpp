@@ -105,7 +105,7 @@ void frmMain::OnAddToken() {
 }
 
 void frmMain::OnRemoveToken() {
-    if (!SelectedToken())
+    if (!lbxTokens->Selected())
         return;
     frmAddToken(this, program_.messages).RemoveToken(ReferenceMapFile(), lbxTokens->SelectedText());
     LoadTokenList();
@@ -155,19 +155,19 @@ void frmMain::OnSaveAndNext() {
 }
 
 void frmMain::OnNext() {
-    const std::optional<std::size_t> selected = SelectedToken();
+    const std::optional<std::size_t> selected = lbxTokens->Selected();
     lbxTokens->Click(selected ? *selected + 1 : 0);
 }
 
 void frmMain::OnPrevious() {
-    const std::optional<std::size_t> selected = SelectedToken();
+    const std::optional<std::size_t> selected = lbxTokens->Selected();
     if (selected && *selected > 0)
         lbxTokens->Click(*selected - 1);
 }
 
 void frmMain::OnNextUntranslated() {
-    ClickFound(
-        FindUntranslated(program_, lbxTokens->Entries(), SelectedToken(), CurrentSelection()));
+    ClickFound(FindUntranslated(program_, lbxTokens->Entries(), lbxTokens->Selected(),
+                                CurrentSelection()));
 }
 
 void frmMain::OnFind() {
@@ -183,19 +183,13 @@ void frmMain::OnFindNext() {
     if (soughtText_.empty()) {
         OnFind();
     } else {
-        ClickFound(FindEntry(lbxTokens->Entries(), SelectedToken(), soughtText_));
+        ClickFound(FindEntry(lbxTokens->Entries(), lbxTokens->Selected(), soughtText_));
     }
-}
-
-std::optional<std::size_t> frmMain::SelectedToken() const {
-    const int selection = lbxTokens->GetSelection();
-    return selection == wxNOT_FOUND ? std::nullopt
-                                    : std::optional(static_cast<std::size_t>(selection));
 }
 
 void frmMain::ClickFound(std::optional<std::size_t> index) {
     // A click on the selected token would replace the typed text.
-    if (index && index != SelectedToken()) {
+    if (index && index != lbxTokens->Selected()) {
         lbxTokens->Click(*index);
     } else {
         wxBell();

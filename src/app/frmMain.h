@@ -84,7 +84,6 @@ class frmMain : public wxFrame {
     void OnNextUntranslated();
     void OnFind();
     void OnFindNext();
-    std::optional<std::size_t> SelectedToken() const;
     void ClickFound(std::optional<std::size_t> index);
 
     Selection CurrentSelection() const;

@@ -29,10 +29,14 @@ void SelectionList::Fill(std::vector<std::u16string> entries) {
     ReplaceEntries(*this, shown);
 }
 
-std::u16string SelectionList::SelectedText() const {
+std::optional<std::size_t> SelectionList::Selected() const {
     const int selection = GetSelection();
-    return selection == wxNOT_FOUND ? std::u16string()
-                                    : entries_[static_cast<std::size_t>(selection)];
+    return selection == wxNOT_FOUND ? std::nullopt
+                                    : std::optional(static_cast<std::size_t>(selection));
+}
+
+std::u16string SelectionList::SelectedText() const {
+    return Selected() ? entries_[*Selected()] : std::u16string();
 }
 
 void SelectionList::Click(std::size_t index) {

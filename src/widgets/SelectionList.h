@@ -5,6 +5,7 @@
 #include <wx/listbox.h>
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,8 @@ class SelectionList : public wxListBox {
     void Fill(std::vector<std::u16string> entries);
     const std::vector<std::u16string>& Entries() const { return entries_; }
 
+    /// The selected entry, counted from 0.
+    std::optional<std::size_t> Selected() const;
     /// The selected entry's text, exactly as it was filled in; empty when none is selected.
     std::u16string SelectedText() const;
 

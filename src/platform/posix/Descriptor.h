@@ -25,10 +25,6 @@ class Descriptor {
     int Number() const { return number_; }
     /// False on failure: some file systems report a full disk only now.
     bool Close();
-    void Reset(int number) {
-        Close();
-        number_ = number;
-    }
     /// Returns the descriptor, which the caller must close.
     int Release() { return std::exchange(number_, -1); }
 

@@ -90,9 +90,10 @@ class TargetFile {
     /// it. -1 when something outside the folder, or a file that cannot be made writable, would
     /// change.
     int OpenExisting(const TargetMode& mode) {
-        Descriptor file(OpenNoLink());
-        if (!file.IsOpen() && errno == EACCES && MakeWritable(place_))
-            file.Reset(OpenNoLink());
+        int number = OpenNoLink();
+        if (number < 0 && errno == EACCES && MakeWritable(place_))
+            number = OpenNoLink();
+        Descriptor file(number);
         struct stat existing {};
         if (!file.IsOpen() || fstat(file.Number(), &existing) != 0 || !S_ISREG(existing.st_mode) ||
             existing.st_nlink != 1)
