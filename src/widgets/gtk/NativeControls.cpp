@@ -22,8 +22,8 @@ void NameWidget(GtkWidget* widget, gpointer name) {
 void ReplaceEntries(wxListBox& list, const wxArrayString& entries) {
     GtkTreeView* tree = TreeOf(list);
     GtkTreeModel* rows = gtk_tree_view_get_model(tree);
-    list.Clear();
-    // Rows that are added to a visible list are reported to screen readers one by one.
+    list.SetSelection(wxNOT_FOUND);
+    // The rows of a visible list are removed, added and reported to screen readers one by one.
     g_object_ref(rows);
     gtk_tree_view_set_model(tree, nullptr);
     list.Set(entries);
