@@ -174,4 +174,15 @@ TEST(RegistryExport, ReadsUtf16Utf8AndAnsiWithAndWithoutAMark) {
         EXPECT_EQ(Value(file).text, u"\u00E9") << file;
 }
 
+// exported.reg was written by Wine's "reg export" for the values that are expected here.
+TEST(RegistryExport, WhatAnExporterWroteIsReadBack) {
+    constexpr std::u16string_view kCharacters = u"aB ;\"\\\u00E9\u3042\u017E\u00DF,=[]-";
+    std::u16string text;
+    for (std::size_t i = 0; i < 300; ++i)
+        text += kCharacters[i * i / 3 % kCharacters.size()];
+    const std::string file = FileBytes(EXPORTED_SETTINGS);
+    for (const char16_t* name : {u"Expandable", u"String"})
+        EXPECT_EQ(FindInRegistryExport(file, u"SOFTWARE\\Corvane\\Corvane", name).text, text);
+}
+
 }  // namespace cvlang::tests
