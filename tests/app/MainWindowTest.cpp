@@ -34,8 +34,9 @@ TEST_F(MainWindow, OpensWithNoLanguageAndListsTokensWhenOneIsClicked) {
     Pick(Window(), kLanguages, u"French");
     EXPECT_EQ(Entries(kTokens), List());
 
+    PutFile("WebAdmin-zephra.net-tokens.map", FileBytes(kReferenceMap));
     Pick(Window(), kApplicationList, u"WebAdmin");
-    EXPECT_EQ(program_.CurrentApplication, u"WebAdmin");
+    EXPECT_EQ(Entries(kTokens).size(), 3U);
     EXPECT_EQ(FileBytes("WebAdmin-WebAdmin-lang.txt").substr(0, 12), "Chinese\tzh\r\n");
     Press(Window(), "Quit");
     EXPECT_EQ(window_, nullptr);

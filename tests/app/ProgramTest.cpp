@@ -5,7 +5,6 @@
 
 #include "app/CommandLine.h"
 #include "app/MakerServices.h"
-#include "platform/Ansi.h"
 #include "support/FakeProgram.h"
 
 namespace cvlang::tests {

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "platform/Ansi.h"
 #include "support/FakeProgram.h"
 #include "text/Strings.h"
 

@@ -9,7 +9,6 @@
 
 #include "download/HttpClient.h"
 #include "download/TokenFileFetch.h"
-#include "platform/Ansi.h"
 #include "support/FakeProgram.h"
 #include "support/LoopbackPeer.h"
 

@@ -20,13 +20,6 @@ struct Page {
     std::vector<std::int32_t> useCounts;
 };
 
-inline std::string Encode(std::u16string_view value) {
-    std::string bytes;
-    for (const char16_t c : value)
-        bytes += Utf16ToUtf8({&c, 1});
-    return bytes;
-}
-
 inline void ReplaceAll(std::string& text, const std::string& what, const std::string& by) {
     for (std::size_t i = 0; (i = text.find(what, i)) != text.npos; i += by.size())
         text.replace(i, what.size(), by);
@@ -51,7 +44,9 @@ inline Page Substitute(const std::string& page, const TextArray& tokens, const T
             const auto token = Utf16ToAnsiExactly(tokens[i]);
             if (!token || !holds(*token))
                 continue;
-            std::string value = Encode(values[i]);
+            std::string value;
+            for (const char16_t c : values[i])
+                value += Utf16ToUtf8({&c, 1});
             if (inScript) {
                 ReplaceAll(value, "'", "\\'");
                 ReplaceAll(value, "\"", "\\\"");

@@ -2,14 +2,12 @@
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
 #include <array>
 #include <regex>
 
 #include "mail/Base64.h"
 #include "mail/MailError.h"
 #include "mail/SmtpDialogue.h"
-#include "platform/Ansi.h"
 #include "support/FakeProgram.h"
 #include "support/LoopbackPeer.h"
 
@@ -203,14 +201,6 @@ TEST(Message, EveryContentHasItsLayout) {
         }
         EXPECT_EQ(TextFrom(mail.message, "MIME-Version"), text);
     }
-}
-
-TEST(Message, ALargeAttachmentIsWhole) {
-    MailFixture mail;
-    PutFile("large", std::string(5700000, '\0'));
-    mail.message.AddAttachment("large", "");
-    const std::string text = mail.message.ComposeText();
-    EXPECT_EQ(std::count(text.begin(), text.end(), 'A') / 76, 100000);
 }
 
 TEST(Message, WithoutAnyFileInTheCurrentFolderAttachmentsAreAnnounced) {

@@ -5,10 +5,9 @@
 #include <random>
 #include <thread>
 
-#include "platform/Ansi.h"
 #include "platform/FileSystem.h"
 #include "platform/Process.h"
-#include "support/Files.h"
+#include "support/FakeProgram.h"
 #include "text/Unicode.h"
 
 namespace cvlang::tests {

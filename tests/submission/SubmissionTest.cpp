@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/Files.h"
+#include "support/FakeProgram.h"
 
 namespace cvlang::tests {
 

@@ -1,4 +1,4 @@
-#include "support/Files.h"
+#include "support/FakeProgram.h"
 
 #include <chrono>
 #include <cstdlib>

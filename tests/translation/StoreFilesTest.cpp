@@ -1,7 +1,6 @@
 // The files of the translation store, read and written as they are.
 #include <gtest/gtest.h>
 
-#include "platform/Ansi.h"
 #include "support/FakeProgram.h"
 #include "text/Strings.h"
 #include "translation/Languages.h"

@@ -5,13 +5,12 @@
 #include <ctime>
 #include <vector>
 
-#include "platform/Ansi.h"
 #include "platform/FileCopy.h"
 #include "platform/Process.h"
 #include "platform/Registry.h"
 #include "platform/SystemInformation.h"
 #include "platform/posix/RegistryExport.h"
-#include "support/Files.h"
+#include "support/FakeProgram.h"
 #include "text/Unicode.h"
 
 namespace cvlang::tests {
