@@ -1,4 +1,5 @@
-"""Opens the program as built on a display: its window, a fault of its servers, and the box for arguments that are not valid."""
+# Opens the program as built on a display: its window, a fault of its servers, and the box for arguments that are not
+# valid.
 import contextlib
 import os
 import pathlib

@@ -1,7 +1,7 @@
-"""Runs a command on a desktop of its own: an X display with a window manager.
-
-The display has the size that the variable SCREEN names; 800x600 is the smallest supported one. A command that succeeds fails all the same when the toolkit complains on standard error.
-"""
+# Runs a command on a desktop of its own: an X display with a window manager.
+#
+# The display has the size that the variable SCREEN names; 800x600 is the smallest supported one. A command that
+# succeeds fails all the same when the toolkit complains on standard error.
 import contextlib
 import os
 import re
