@@ -68,6 +68,7 @@ class MainWindow : public testing::Test {
     wxString Details() {
         const auto& list = Find<wxListCtrl>(Window(), kDetails);
         wxListItem heading;
+        heading.SetMask(wxLIST_MASK_TEXT);
         list.GetColumn(1, heading);
         wxString text = heading.GetText();
         for (int row = 0; row < list.GetItemCount(); ++row)
