@@ -1,6 +1,5 @@
 #include "app/frmMain.h"
 
-#include <wx/icon.h>
 #include <wx/listctrl.h>
 #include <wx/textdlg.h>
 #include <wx/utils.h>
@@ -13,6 +12,7 @@
 #include "translation/StorePaths.h"
 #include "translation/TokenEditing.h"
 #include "translation/TokenMapFile.h"
+#include "widgets/NativeControls.h"
 #include "widgets/SelectionList.h"
 #include "widgets/Text.h"
 #include "widgets/TextBox.h"
@@ -25,9 +25,7 @@ frmMain::frmMain(Program& program, MakerServices services)
       program_(program),
       services_(std::move(services)) {
     program_.progress = &waiting_;
-    // Windows only: on Linux the desktop entry names the icon.
-    if (wxIcon icon; icon.LoadFile("appicon", wxBITMAP_TYPE_ICO_RESOURCE))
-        SetIcon(icon);
+    SetProgramIcon(*this);
     CreateMenu();
     CreateControls();
     CreateKeys();
@@ -155,14 +153,11 @@ void frmMain::OnSaveAndNext() {
 }
 
 void frmMain::OnNext() {
-    const std::optional<std::size_t> selected = lbxTokens->Selected();
-    lbxTokens->Click(selected ? *selected + 1 : 0);
+    lbxTokens->Click(static_cast<std::size_t>(lbxTokens->GetSelection() + 1));
 }
 
 void frmMain::OnPrevious() {
-    const std::optional<std::size_t> selected = lbxTokens->Selected();
-    if (selected && *selected > 0)
-        lbxTokens->Click(*selected - 1);
+    lbxTokens->Click(static_cast<std::size_t>(lbxTokens->GetSelection() - 1));
 }
 
 void frmMain::OnNextUntranslated() {
@@ -173,6 +168,7 @@ void frmMain::OnNextUntranslated() {
 void frmMain::OnFind() {
     wxTextEntryDialog dialog(this, "Find in the tokens and their English values:", "Find",
                              ToWx(soughtText_));
+    SetProgramIcon(dialog);
     if (dialog.ShowModal() != wxID_OK || dialog.GetValue().empty())
         return;
     soughtText_ = FromWx(dialog.GetValue());
@@ -180,20 +176,16 @@ void frmMain::OnFind() {
 }
 
 void frmMain::OnFindNext() {
-    if (soughtText_.empty()) {
-        OnFind();
-    } else {
-        ClickFound(FindEntry(lbxTokens->Entries(), lbxTokens->Selected(), soughtText_));
-    }
+    if (soughtText_.empty())
+        return OnFind();
+    ClickFound(FindEntry(lbxTokens->Entries(), lbxTokens->Selected(), soughtText_));
 }
 
 void frmMain::ClickFound(std::optional<std::size_t> index) {
     // A click on the selected token would replace the typed text.
-    if (index && index != lbxTokens->Selected()) {
-        lbxTokens->Click(*index);
-    } else {
-        wxBell();
-    }
+    if (!index || index == lbxTokens->Selected())
+        return wxBell();
+    lbxTokens->Click(*index);
 }
 
 Selection frmMain::CurrentSelection() const {

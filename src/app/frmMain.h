@@ -49,8 +49,8 @@ class frmMain : public wxFrame {
     void CreateDetails(wxSizer& column);
     void CreateButtons(wxSizer& column);
     void CreateKeys();
-    SelectionList* CreateList(wxSizer& row, const char* labelName, const char* label,
-                              const char* name, Action onClick);
+    SelectionList* AddList(wxSizer& column, const char* labelName, const char* label,
+                           const char* name, Action onClick, long style);
     wxButton* CreateButton(wxWindow& parent, const char* caption, const char* name, Action onClick);
     void OnCommand(int id, Action action);
     void Guarded(Action action);

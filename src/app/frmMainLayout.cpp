@@ -36,11 +36,6 @@ constexpr int kStartHeight = 700;
 constexpr int kFrameWidth = 2;
 constexpr int kTitleHeight = 36;
 
-/// Without a fixed size, a list would change its size with its entries.
-void SetLeastSize(wxWindow* list) {
-    list->SetMinSize(wxSize(list->FromDIP(kListWidth), kListPixels));
-}
-
 }  // namespace
 
 void frmMain::CreateMenu() {
@@ -100,37 +95,37 @@ void frmMain::CreateControls() {
 
 void frmMain::CreateSelection(wxSizer& column) {
     auto* row = new wxBoxSizer(wxHORIZONTAL);
-    lstApplication = CreateList(*row, "Label1", "Current Application:", "lstApplication",
-                                &frmMain::OnApplicationClick);
-    lstBases = CreateList(*row, "Label2", "Application Base:", "lstBases", &frmMain::OnBaseClick);
-    lstLanguages =
-        CreateList(*row, "Label3", "Target Language:", "lstLanguages", &frmMain::LoadTokenList);
+    const auto add = [&](const char* labelName, const char* label, const char* name,
+                         Action onClick) {
+        auto* list = new wxBoxSizer(wxVERTICAL);
+        if (!row->IsEmpty())
+            row->AddSpacer(FromDIP(kGap));
+        row->Add(list, wxSizerFlags(1).Expand());
+        return AddList(*list, labelName, label, name, onClick, 0);
+    };
+    lstApplication =
+        add("Label1", "Current Application:", "lstApplication", &frmMain::OnApplicationClick);
+    lstBases = add("Label2", "Application Base:", "lstBases", &frmMain::OnBaseClick);
+    lstLanguages = add("Label3", "Target Language:", "lstLanguages", &frmMain::LoadTokenList);
     column.Add(row, wxSizerFlags(4).Expand().Border(wxTOP, FromDIP(kGap)));
 }
 
-SelectionList* frmMain::CreateList(wxSizer& row, const char* labelName, const char* label,
-                                   const char* name, Action onClick) {
-    auto* column = new wxBoxSizer(wxVERTICAL);
-    AddLabel(*panel_, *column, labelName, label);
-    auto* list = new SelectionList(panel_, name, [this, onClick] { Guarded(onClick); });
+SelectionList* frmMain::AddList(wxSizer& column, const char* labelName, const char* label,
+                                const char* name, Action onClick, long style) {
+    AddLabel(*panel_, column, labelName, label);
+    auto* list = new SelectionList(
+        panel_, name, [this, onClick] { Guarded(onClick); }, style);
     SetAccessibleName(*list, label);
-    SetLeastSize(list);
-    AddToColumn(*column, list, 1);
-    if (!row.IsEmpty())
-        row.AddSpacer(FromDIP(kGap));
-    row.Add(column, wxSizerFlags(1).Expand());
-    return list;
+    // Without a fixed size, a list would change its size with its entries.
+    list->SetMinSize(wxSize(FromDIP(kListWidth), kListPixels));
+    return AddToColumn(column, list, 5);
 }
 
 void frmMain::CreateTokens(wxSizer& column) {
-    AddLabel(*panel_, column, "Label6", "Tokens:");
-    lbxTokens = new SelectionList(
-        panel_, "lbxTokens", [this] { Guarded(&frmMain::OnTokenClick); }, wxLB_HSCROLL);
+    lbxTokens =
+        AddList(column, "Label6", "Tokens:", "lbxTokens", &frmMain::OnTokenClick, wxLB_HSCROLL);
     lbxTokens->SetRepeatable([this] { return !txtTranslation->IsChanged(); });
     lbxTokens->SetToolTip("Ctrl+Down and Ctrl+Up: next and previous token. Ctrl+F: find a text.");
-    SetAccessibleName(*lbxTokens, "Tokens:");
-    SetLeastSize(lbxTokens);
-    AddToColumn(column, lbxTokens, 5);
 }
 
 void frmMain::CreateDetails(wxSizer& column) {

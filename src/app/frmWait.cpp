@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "widgets/Layout.h"
+#include "widgets/NativeControls.h"
 
 namespace cvlang {
 namespace {
@@ -36,6 +37,7 @@ class frmWait : public wxDialog {
             label->SetName(name);
             GetSizer()->Add(label, wxSizerFlags().Border(wxALL, FromDIP(kWindowMargin)));
         };
+        SetProgramIcon(*this);
         SetSizer(new wxBoxSizer(wxVERTICAL));
         addLabel("Corvane setup is now processing your request.", "lblStatusMessage");
         addLabel("This process may take several minutes. Please wait...", "lblTimeMessage");

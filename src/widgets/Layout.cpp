@@ -4,6 +4,8 @@
 #include <wx/button.h>
 #include <wx/stattext.h>
 
+#include "widgets/NativeControls.h"
+
 namespace cvlang {
 
 wxStaticText* AddLabel(wxWindow& parent, wxSizer& column, const wxString& name,
@@ -28,8 +30,7 @@ wxSizer& StartColumn(wxDialog& dialog) {
     column->SetMinSize(dialog.FromDIP(wxSize(kDialogWidth, -1)));
     margin->Add(column, wxSizerFlags(1).Expand().Border(wxALL, dialog.FromDIP(kWindowMargin)));
     dialog.SetSizer(margin);
-    if (auto* owner = dynamic_cast<wxTopLevelWindow*>(wxGetTopLevelParent(dialog.GetParent())))
-        dialog.SetIcons(owner->GetIcons());
+    SetProgramIcon(dialog);
     return *column;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <wx/listbox.h>
+#include <wx/toplevel.h>
 
 namespace cvlang {
 
@@ -10,6 +11,9 @@ void ReplaceEntries(wxListBox& list, const wxArrayString& entries);
 
 /// What screen readers call a control.
 void SetAccessibleName(wxWindow& control, const wxString& name);
+
+/// On Linux the icon is that of the desktop entry.
+void SetProgramIcon(wxTopLevelWindow& window);
 
 /// Whether the system has message boxes of its own that show every icon. Otherwise the toolkit
 /// shows them.

@@ -59,12 +59,10 @@ void SelectionList::OnFocus(wxFocusEvent& event) {
 }
 
 void SelectionList::OnSelected() {
-    if (gettingFocus_) {
-        SetSelection(wxNOT_FOUND);
-    } else {
-        pressed_ = wxNOT_FOUND;
-        onClick_();
-    }
+    if (gettingFocus_)
+        return SetSelection(wxNOT_FOUND);
+    pressed_ = wxNOT_FOUND;
+    onClick_();
 }
 
 // The toolkit reports no click on the entry that is selected already.

@@ -37,6 +37,10 @@ void SetAccessibleName(wxWindow& control, const wxString& name) {
     NameWidget(control.GetHandle(), text.data());
 }
 
+void SetProgramIcon(wxTopLevelWindow& window) {
+    gtk_window_set_icon_name(GTK_WINDOW(window.GetHandle()), "cvlangtranslator");
+}
+
 bool HasSystemMessageBox() {
     return false;
 }

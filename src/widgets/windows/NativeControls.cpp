@@ -1,6 +1,7 @@
 #include "widgets/NativeControls.h"
 
 #include <windows.h>
+#include <wx/icon.h>
 #include <wx/wupdlock.h>
 
 namespace cvlang {
@@ -13,6 +14,11 @@ void ReplaceEntries(wxListBox& list, const wxArrayString& entries) {
 
 // Screen readers take the text of the label that was created before the control.
 void SetAccessibleName(wxWindow&, const wxString&) {}
+
+void SetProgramIcon(wxTopLevelWindow& window) {
+    if (wxIcon icon; icon.LoadFile("appicon", wxBITMAP_TYPE_ICO_RESOURCE))
+        window.SetIcon(icon);
+}
 
 bool HasSystemMessageBox() {
     return true;
