@@ -38,12 +38,6 @@ std::string Download(Program& program, const DistributionServer& server, std::u1
     return HttpGet(path, server.host, server.port, [&program] { program.progress->Step(); });
 }
 
-/// Each pair of bytes is a character already. A single last byte is none.
-void MakeUtf16File(std::string& bytes) {
-    bytes.resize(bytes.size() / 2 * 2);
-    bytes.insert(0, kUtf16ByteOrderMark);
-}
-
 }  // namespace
 
 void FetchDefaultTranslation(Program& program, const DistributionServer& server,
@@ -87,7 +81,8 @@ bool DownloadTokenFile(Program& program, const DistributionServer& server,
         return false;
     }
     if (bUnicode)
-        MakeUtf16File(body);
+        // Each pair of bytes is a character already. A single last byte is none.
+        body = std::string(kUtf16ByteOrderMark).append(body, 0, body.size() / 2 * 2);
     const ProcessLock lock(file.parent_path());
     if (RemoveFile(file))
         WriteFile(file, body);

@@ -112,7 +112,7 @@ std::string Base64::DecodeToByteArr(std::string_view text) {
 bool Base64::DecodeToFile(std::string_view text, const std::filesystem::path& file) {
     if (EntryExists(file))
         throw MailError(MailErrorNumber::FileExists, "Base64.DecodeToFile", "File already exists.");
-    return WriteFile(file, DecodeToByteArr(text));
+    return !WriteFile(file, DecodeToByteArr(text));
 }
 
 }  // namespace cvlang

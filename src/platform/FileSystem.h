@@ -87,10 +87,10 @@ FileStatus ReadFile(const std::filesystem::path& path, FileContent& content);
 /// Whether the bytes are flushed to the disk, so that they survive a power cut.
 enum class Durability { Cached, OnDisk };
 
-/// Replaces the content of a file. False on failure, also for a read-only file; a part of the bytes
-/// may then have been written.
-bool WriteFile(const std::filesystem::path& path, std::string_view bytes,
-               Durability durability = Durability::Cached);
+/// Replaces the content of a file. Fails for a read-only file too. After a failure a part of the
+/// bytes may have been written.
+std::error_code WriteFile(const std::filesystem::path& path, std::string_view bytes,
+                          Durability durability = Durability::Cached);
 
 /// Appends to a file, and creates a missing one. A read-only file is unchanged, for root too.
 std::error_code AppendToFile(const std::filesystem::path& path, std::string_view bytes);

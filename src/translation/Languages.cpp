@@ -79,13 +79,9 @@ bool ReadLanguageList(const std::filesystem::path& file, std::u16string& list) {
 
 bool CreateLanguageList(const std::filesystem::path& file) {
     std::u16string list;
-    for (const Language& language : kDefaultLanguages) {
-        list += language.name;
-        list += kTab;
-        list += language.abbreviation;
-        list += kCrLf16;
-    }
-    return WriteFile(FindExisting(file), Utf16ToAnsi(list));
+    for (const Language& language : kDefaultLanguages)
+        list.append(language.name).append(kTab).append(language.abbreviation).append(kCrLf16);
+    return !WriteFile(FindExisting(file), Utf16ToAnsi(list));
 }
 
 bool IsSame(std::u16string_view a, std::u16string_view b) {
@@ -110,30 +106,38 @@ std::string WithLanguage(std::string_view list, const Language& added) {
     Lines<char> lines(list);
     for (std::string_view line; lines.Next(line);)
         longer.append(line).append(kCrLf);
-    longer += Utf16ToAnsi(added.name) + "\t" + Utf16ToAnsi(added.abbreviation);
-    longer += kCrLf;
-    return longer;
+    return longer + Utf16ToAnsi(added.name) + "\t" + Utf16ToAnsi(added.abbreviation) + "\r\n";
 }
 
-/// Appends first, which leaves the old list as it was when the disk is full.
+/// The old list stays when that fails, also when the disk is full.
 void ReplaceByLonger(const std::filesystem::path& file, std::string_view old,
                      std::string_view longer) {
-    AppendOrThrow(file, longer.substr(old.size()));
-    if (!longer.starts_with(old))
-        WriteFile(file, longer);
+    if (longer.starts_with(old))
+        return AppendOrThrow(file, longer.substr(old.size()));
+    const std::filesystem::path copy = RemovalCopy(file);
+    // Adding nothing shows whether the file is read-only, which renaming does not.
+    std::error_code error = AppendToFile(file, {});
+    if (!error)
+        error = WriteFile(copy, longer, Durability::OnDisk);
+    if (!error)
+        std::filesystem::permissions(copy, std::filesystem::status(file).permissions(), error);
+    if (!error)
+        std::filesystem::rename(copy, file, error);
+    if (error) {
+        RemoveFile(copy);
+        throw std::filesystem::filesystem_error("cannot write", file, error);
+    }
 }
 
 /// Returns the reason to refuse the language; empty when there is none.
-std::u16string AddToList(const std::filesystem::path& file, const Language& language, bool& added) {
+std::u16string AddToList(const std::filesystem::path& file, const Language& added) {
     const ProcessLock lock(file.parent_path());
     FileContent content;
     if (ReadFile(file, content) != FileStatus::Okay)
         return u"Could not load language file " + TextFromPath(file);
-    const std::u16string_view reason = ValidateNewLanguage(AnsiToUtf16(content.Bytes()), language);
-    added = reason.empty();
-    if (added)
-        ReplaceByLonger(FindExisting(file), content.Bytes(),
-                        WithLanguage(content.Bytes(), language));
+    const std::u16string_view reason = ValidateNewLanguage(AnsiToUtf16(content.Bytes()), added);
+    if (reason.empty())
+        ReplaceByLonger(FindExisting(file), content.Bytes(), WithLanguage(content.Bytes(), added));
     return std::u16string(reason);
 }
 
@@ -163,12 +167,11 @@ std::vector<std::u16string> LoadLanguageList(const Configuration& config,
 
 bool AddLanguageToBase(Program& program, const Selection& selection, std::u16string_view name,
                        std::u16string_view abbreviation) {
-    bool added = false;
     const std::u16string reason =
-        AddToList(GetLanguageListFilePath(program.config, selection), {name, abbreviation}, added);
+        AddToList(GetLanguageListFilePath(program.config, selection), {name, abbreviation});
     if (!reason.empty())
         program.messages.Show({reason, u"Error", MessageButtons::Ok, MessageIcon::Critical});
-    return added;
+    return reason.empty();
 }
 
 void UpdateLanguageTable(const Program& program, std::u16string_view /*application*/,

@@ -22,10 +22,7 @@ std::string_view BytesOf(std::u16string_view text) {
 }
 
 std::u16string KeyedLine(std::u16string_view key, std::u16string_view value) {
-    std::u16string line(key);
-    line += kTab;
-    line += value;
-    return line;
+    return std::u16string(key).append(kTab).append(value);
 }
 
 std::u16string WithNewValue(std::u16string_view text, std::u16string_view key,
@@ -62,9 +59,8 @@ std::u16string_view Utf16File::Text() const {
 }
 
 bool WriteUtf16File(const std::filesystem::path& path, std::u16string_view text) {
-    std::u16string marked(1, kByteOrderMark);
-    marked += text;
-    return WriteFile(path, BytesOf(marked), Durability::OnDisk);
+    return !WriteFile(path, BytesOf(std::u16string(1, kByteOrderMark).append(text)),
+                      Durability::OnDisk);
 }
 
 void AppendOrThrow(const std::filesystem::path& path, std::string_view bytes) {
@@ -109,12 +105,10 @@ void RewriteKeyedLine(const RewrittenFile& rewritten, std::u16string_view key,
         case FileStatus::NotFound:
             WriteUtf16File(file, KeyedLine(key, value) + std::u16string(kCrLf16));
             break;
-        case FileStatus::OtherError: {
+        case FileStatus::OtherError:
             // Deliberate: the same text for every file, also for those without tokens.
-            [[maybe_unused]] const auto ignored =
-                logs.LogTranslationEvent(u"Unable to update token");
+            static_cast<void>(logs.LogTranslationEvent(u"Unable to update token"));
             break;
-        }
     }
 }
 

@@ -44,8 +44,8 @@ fs::path TemporaryMapFile(std::u16string_view directory, const Selection& select
                                       LanguageEnding(abbreviation, authoringVersion));
 }
 
-fs::path RemovalCopy(const fs::path& mapFile) {
-    fs::path copy = mapFile;
+fs::path RemovalCopy(const fs::path& file) {
+    fs::path copy = file;
     copy += "D";
     return copy;
 }

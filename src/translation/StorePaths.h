@@ -32,8 +32,8 @@ std::filesystem::path TemporaryMapFile(std::u16string_view directory, const Sele
                                        std::u16string_view abbreviation,
                                        std::int32_t authoringVersion);
 
-/// The temporary file for removing a token from a map file.
-std::filesystem::path RemovalCopy(const std::filesystem::path& mapFile);
+/// The temporary file for removing a token from a map file, or for adding to a language list.
+std::filesystem::path RemovalCopy(const std::filesystem::path& file);
 
 /// The languages of a base: App-Base-lang.txt
 std::filesystem::path LanguageListFile(std::u16string_view directory, const Selection& selection);

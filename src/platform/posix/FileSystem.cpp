@@ -47,10 +47,14 @@ int OpenExisting(const Folder& folder, const fs::path& name) {
 int OpenForWriting(const Place& place) {
     const int created = Open(place, O_WRONLY | O_CREAT | O_EXCL);
     struct stat existing {};
-    if (created >= 0 || errno != EEXIST ||
-        fstatat(place.directory, place.name, &existing, 0) != 0 || IsReadOnly(existing))
+    if (created >= 0 || errno != EEXIST || fstatat(place.directory, place.name, &existing, 0) != 0)
         return created;
-    return Open(place, O_WRONLY | O_TRUNC);
+    errno = EACCES;
+    return IsReadOnly(existing) ? -1 : Open(place, O_WRONLY | O_TRUNC);
+}
+
+std::error_code LastError() {
+    return {errno, std::generic_category()};
 }
 
 /// Flushes the file. False when the disk fails; a file system without flushing is no failure.
@@ -183,12 +187,12 @@ FileStatus ReadFile(const fs::path& path, FileContent& content) {
     return ReadFile(Folder(FindExisting(folder)), path.filename(), content);
 }
 
-bool WriteFile(const fs::path& path, std::string_view bytes, Durability durability) {
+std::error_code WriteFile(const fs::path& path, std::string_view bytes, Durability durability) {
     Descriptor file(OpenForWriting(Place(path)));
-    if (!file.IsOpen())
-        return false;
-    const bool written = WriteAll(file, bytes) && (durability == Durability::Cached || Flush(file));
-    return file.Close() && written;
+    if (file.IsOpen() && WriteAll(file, bytes) &&
+        (durability == Durability::Cached || Flush(file)) && file.Close())
+        return {};
+    return LastError();
 }
 
 std::error_code AppendToFile(const fs::path& path, std::string_view bytes) {
@@ -196,9 +200,9 @@ std::error_code AppendToFile(const fs::path& path, std::string_view bytes) {
     struct stat status {};
     if (file.IsOpen() && fstat(file.Number(), &status) == 0 && IsReadOnly(status))
         return std::make_error_code(std::errc::permission_denied);
-    if (!file.IsOpen() || !WriteAll(file, bytes) || !file.Close())
-        return {errno, std::generic_category()};
-    return {};
+    if (file.IsOpen() && WriteAll(file, bytes) && file.Close())
+        return {};
+    return LastError();
 }
 
 bool EntryExists(const fs::path& path) {

@@ -9,6 +9,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
+std::error_code LastError() {
+    return {static_cast<int>(GetLastError()), std::system_category()};
+}
+
 /// Searches for entries of a name or pattern: the first one, or null when there is none.
 auto StartSearch(const fs::path& pattern, WIN32_FIND_DATAW& first) {
     const HANDLE search = FindFirstFileExW(LongPath(pattern).c_str(), FindExInfoBasic, &first,
@@ -119,17 +123,19 @@ FileStatus ReadFile(const fs::path& path, FileContent& content) {
     return ReadFile(Folder(path.parent_path()), path.filename(), content);
 }
 
-bool WriteFile(const fs::path& path, std::string_view bytes, Durability durability) {
+std::error_code WriteFile(const fs::path& path, std::string_view bytes, Durability durability) {
     const FileHandle file(path, GENERIC_WRITE, CREATE_ALWAYS);
-    return file.IsOpen() && file.WriteAll(bytes) &&
-           (durability == Durability::Cached || FlushFileBuffers(file.Get()));
+    if (file.IsOpen() && file.WriteAll(bytes) &&
+        (durability == Durability::Cached || FlushFileBuffers(file.Get())))
+        return {};
+    return LastError();
 }
 
 std::error_code AppendToFile(const fs::path& path, std::string_view bytes) {
     const FileHandle file(path, FILE_APPEND_DATA, OPEN_ALWAYS);
-    if (!file.IsOpen() || !file.WriteAll(bytes))
-        return {static_cast<int>(GetLastError()), std::system_category()};
-    return {};
+    if (file.IsOpen() && file.WriteAll(bytes))
+        return {};
+    return LastError();
 }
 
 bool EntryExists(const fs::path& path) {
