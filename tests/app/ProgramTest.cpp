@@ -1,10 +1,12 @@
-// What the program does without a display: its command line and its servers.
+// What the program does without a display: its command line, its servers, and what the window does
+// behind its controls.
 #include <gmock/gmock.h>
 
 #include <cstdlib>
 
 #include "app/CommandLine.h"
 #include "app/MakerServices.h"
+#include "app/Operations.h"
 #include "support/FakeProgram.h"
 
 namespace cvlang::tests {
@@ -95,6 +97,73 @@ TEST(MakerServices, AreTheBuiltInOnesUnlessTheEnvironmentNamesOthers) {
         const std::u16string end = u"_SERVER to HOST or HOST:PORT, an IPv6 address in brackets.";
         EXPECT_EQ(NamedServers(text, text),
                   Servers(start + u"DISTRIBUTION" + end, start + u"SUBMISSION" + end));
+    }
+}
+
+TEST(Operations, BasesAreDetectedByTheirEntriesInAFixedOrder) {
+    const FakeProgram fake;
+    EXPECT_TRUE(DetectBases(fake.config, kProbedApplication).empty());
+    for (const char* entry : {"Kesto", "zephra", "ENTERPRISE/file", "other", "default"})
+        PutFile(fake.folder / "NETWebMail" / entry, "");
+    EXPECT_THAT(
+        DetectBases(fake.config, kProbedApplication),
+        testing::ElementsAre(u"default.net", u"enterprise.net", u"zephra.net", u"kesto.net"));
+}
+
+const Selection kSelection{u"WebMail", u"default.net", u"French"};
+const std::string kFrenchMap = "WebMail-default.net-tokens-fr.map";
+
+TEST(Operations, ASearchGoesOnBehindTheSelectedEntryAndEndsWithIt) {
+    const FakeProgram fake;
+    PutFile(kFrenchMap, Utf16Bytes(u"[CV_A]\ta\r\n[CV_B]\t\r\n[CV_B]\tlater\r\n[CV_D]\td"));
+    const std::vector<std::u16string> entries{u"[CV_A]: \u00C9t\u00E9", u"[CV_B]: b", u"[CV_C]",
+                                              u"[CV_D]: D"};
+    using Index = std::optional<std::size_t>;
+    const std::tuple<Index, std::u16string, Index> texts[] = {{{}, u"[cv_", 0},  {0, u"[cv_", 1},
+                                                              {3, u"[cv_", 0},   {1, u"\u00E9T", 0},
+                                                              {0, u"\u00E9", 0}, {0, u"none", {}}};
+    for (const auto& [selected, text, found] : texts)
+        EXPECT_EQ(FindEntry(entries, selected, text), found);
+    for (const auto& [selected, found] : {std::pair<Index, Index>{{}, 1}, {1, 2}, {2, 1}, {3, 1}})
+        EXPECT_EQ(FindUntranslated(fake.program, entries, selected, kSelection), found);
+}
+
+TEST(Operations, ApplyingRecordsTheLanguageAndReportsSuccessInAnyCase) {
+    FakeProgram fake;
+    PutFile(fake.folder / "NETWebMail/default/lang/SYS/Login.aspx", "[CV_TXT-A]");
+    PutFile(kFrenchMap, Utf16Bytes(u"[CV_TXT-A]\tSalut\r\n"));
+    for (const std::u16string language : {u"French", u"Klingon", u""}) {  // two are unknown
+        GenerateLanguage(fake.program, {u"WebMail", u"default.net", language});
+        EXPECT_EQ(
+            fake.messages.shown.back().text,
+            u"Translated web pages were generated sucessfully for " + language + u" language.");
+    }
+    EXPECT_EQ(FileBytes("NETWebMail/default/lang/fr/Login.aspx"), "\xEF\xBB\xBFSalut");
+    EXPECT_EQ(FileBytes("LANGUAGES.TAB"), Utf16Bytes(u"fr\tFrench\r\n"));
+    EXPECT_EQ(std::pair(fake.progress.begun, fake.progress.ended), std::pair(3, 3));
+}
+
+TEST(Operations, ATokenIsRemovedAsFarAsTheAnswerAllows) {
+    FakeProgram fake;
+    const auto reference = fake.folder / "WebMail-default.net-tokens.map";
+    const auto hasToken = [](const std::filesystem::path& file) {
+        return FileBytes(file).find('A') != std::string::npos;
+    };
+    // Whether the reference map file exists, and what has the token afterwards.
+    const std::tuple<bool, MessageAnswer, bool, bool> cases[] = {
+        {true, MessageAnswer::Cancel, true, true},
+        {true, MessageAnswer::No, false, true},
+        {true, MessageAnswer::Yes, false, false},
+        {false, MessageAnswer::Yes, false, true}};
+    for (const auto& [exists, answer, inReference, inLanguage] : cases) {
+        PutFile(reference, Utf16Bytes(u"\t\t\t[CV_A]\ta\r\n"));
+        PutFile(kFrenchMap, Utf16Bytes(u"[CV_A]\ta\r\n"));
+        if (!exists)
+            std::filesystem::remove(reference);
+        fake.messages.answer = answer;
+        RemoveTokenAsAsked(fake.messages, reference, u"[CV_A]");
+        EXPECT_EQ(std::pair(hasToken(reference), hasToken(kFrenchMap)),
+                  std::pair(inReference, inLanguage));
     }
 }
 
