@@ -64,15 +64,18 @@ class MainWindow : public testing::Test {
     std::u16string Selected(const char* list) {
         return Find<SelectionList>(Window(), list).SelectedText();
     }
-    /// The second heading of the details, and all their rows.
+    /// The headings of the details, and all their rows.
     wxString Details() {
         const auto& list = Find<wxListCtrl>(Window(), kDetails);
-        wxListItem heading;
-        heading.SetMask(wxLIST_MASK_TEXT);
-        list.GetColumn(1, heading);
-        wxString text = heading.GetText();
-        for (int row = 0; row < list.GetItemCount(); ++row)
-            text += "|" + list.GetItemText(row, 0) + "|" + list.GetItemText(row, 1);
+        wxString text;
+        for (const int column : {0, 1}) {
+            wxListItem heading;
+            heading.SetMask(wxLIST_MASK_TEXT);
+            list.GetColumn(column, heading);
+            text += heading.GetText() + "|";
+            for (int row = 0; row < list.GetItemCount(); ++row)
+                text += list.GetItemText(row, column) + "|";
+        }
         return text;
     }
     const List& Entries(const char* list) { return Find<SelectionList>(Window(), list).Entries(); }

@@ -10,25 +10,12 @@
 #include <wx/stopwatch.h>
 #include <wx/utils.h>
 
-#include <algorithm>
 #include <cstdlib>
 
 #include "widgets/Text.h"
 
 namespace cvlang {
 namespace {
-
-/// The control whose text, or the label before it, is this text.
-wxWindow* FindBelow(wxWindow& parent, const wxString& text) {
-    for (wxWindow* child : parent.GetChildren()) {
-        if (child->IsShownOnScreen() && child->GetLabel() == text)
-            return dynamic_cast<wxStaticText*>(child) == nullptr ? child : child->GetNextSibling();
-        wxWindow* found = child->IsTopLevel() ? nullptr : FindBelow(*child, text);
-        if (found != nullptr)
-            return found;
-    }
-    return nullptr;
-}
 
 void RunIn(wxDialog& dialog, const std::function<void(wxDialog&)>& actions) {
     try {
@@ -73,10 +60,12 @@ void Settle(int milliseconds) {
 }
 
 wxWindow& FindByText(wxWindow& parent, const wxString& text) {
-    wxWindow* found = FindBelow(parent, text);
+    wxWindow* found = wxWindow::FindWindowByLabel(text, &parent);
+    if (dynamic_cast<wxStaticText*>(found) != nullptr)
+        found = found->GetNextSibling();
     if (found == nullptr)
         found = wxWindow::FindWindowByName(text, &parent);
-    if (found == nullptr)
+    if (found == nullptr || !found->IsShownOnScreen())
         throw std::runtime_error("There is no " + text.utf8_string());
     return *found;
 }
@@ -102,10 +91,9 @@ void Choose(wxFrame& frame, const wxString& menu, const wxString& entry) {
 
 void Pick(wxWindow& parent, const wxString& list, const std::u16string& entry) {
     auto& picked = Find<SelectionList>(parent, list);
-    const auto& entries = picked.Entries();
-    const auto found = std::find(entries.begin(), entries.end(), entry) - entries.begin();
-    ASSERT_LT(found, picked.GetCount()) << ToWx(entry);
-    picked.SetSelection(static_cast<int>(found));
+    const int found = picked.FindString(ToWx(entry), true);
+    ASSERT_NE(found, wxNOT_FOUND) << ToWx(entry);
+    picked.SetSelection(found);
     wxCommandEvent event(wxEVT_LISTBOX, picked.GetId());
     picked.ProcessWindowEvent(event);
     Settle();
@@ -128,12 +116,12 @@ wxImage ScreenPixels(const wxRect& place) {
 
 double ShareOf(const wxWindow& window, bool (*counts)(int red, int blue)) {
     const wxImage picture = ScreenPixels(window.GetScreenRect());
+    const int pixels = picture.GetWidth() * picture.GetHeight();
     int counted = 0;
-    for (int y = 0; y < picture.GetHeight(); ++y) {
-        for (int x = 0; x < picture.GetWidth(); ++x)
-            counted += counts(picture.GetRed(x, y), picture.GetBlue(x, y)) ? 1 : 0;
-    }
-    return static_cast<double>(counted) / (picture.GetWidth() * picture.GetHeight());
+    for (const unsigned char* pixel = picture.GetData(); pixel < picture.GetData() + 3 * pixels;
+         pixel += 3)
+        counted += counts(pixel[0], pixel[2]) ? 1 : 0;
+    return static_cast<double>(counted) / pixels;
 }
 
 WindowScript::~WindowScript() {
