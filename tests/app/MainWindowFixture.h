@@ -36,12 +36,10 @@ class MainWindow : public testing::Test {
   protected:
     MainWindow() {
         PutFile("NETWebMail/default/lang/SYS/Login.aspx", "[CV_TXT-HELLO]\r\n");
-        for (const char* base : {"zephra", "Kesto", "ENTERPRISE", "other"})
-            PutFile(std::string("NETWebMail/") + base, "");
-        PutFile(kReferenceMap, Utf16Bytes(u"\t\t\t[CV_TXT-HELLO]\tHello: you\r\n"
-                                          u"\t\t\t[CV_TXT-BYE]\tGoodbye\r\n"
-                                          u"\t\t\tCV_OTHER\tno token\r\n\r\n"
-                                          u"\t\t\t[CV_TXT-NEW]\t\r\n"));
+        PutFile("NETWebMail/zephra", "");
+        PutFile(kReferenceMap,
+                Utf16Bytes(u"\t\t\t[CV_TXT-HELLO]\tHello: you\r\n\t\t\t[CV_TXT-BYE]\tGoodbye\r\n"
+                           u"\t\t\t[CV_TXT-NEW]\t\r\n"));
         PutFile(kFrenchMap, Utf16Bytes(u"[CV_TXT-HELLO]\tBonjour\r\n[CV_TXT-BYE]\tAu revoir\r\n"));
     }
     ~MainWindow() override {

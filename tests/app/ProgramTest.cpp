@@ -149,12 +149,12 @@ TEST(Operations, ATokenIsRemovedAsFarAsTheAnswerAllows) {
     const auto hasToken = [](const std::filesystem::path& file) {
         return FileBytes(file).find('A') != std::string::npos;
     };
-    // Whether the reference map file exists, and what has the token afterwards.
-    const std::tuple<bool, MessageAnswer, bool, bool> cases[] = {
-        {true, MessageAnswer::Cancel, true, true},
-        {true, MessageAnswer::No, false, true},
-        {true, MessageAnswer::Yes, false, false},
-        {false, MessageAnswer::Yes, false, true}};
+    using enum MessageAnswer;
+    // Whether the reference map file exists, and which file has the token afterwards.
+    const std::tuple<bool, MessageAnswer, bool, bool> cases[] = {{true, Cancel, true, true},
+                                                                 {true, No, false, true},
+                                                                 {true, Yes, false, false},
+                                                                 {false, Yes, false, true}};
     for (const auto& [exists, answer, inReference, inLanguage] : cases) {
         PutFile(reference, Utf16Bytes(u"\t\t\t[CV_A]\ta\r\n"));
         PutFile(kFrenchMap, Utf16Bytes(u"[CV_A]\ta\r\n"));
