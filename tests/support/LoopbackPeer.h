@@ -82,10 +82,7 @@ struct WebPeer : LoopbackPeer {
         : LoopbackPeer(
               [answer, body](LoopbackPeer& peer) {
                   peer.ReceiveUntil("\r\n\r\n" + body);
-                  for (std::string_view rest = answer; !rest.empty();) {
-                      const std::ptrdiff_t sent = SendBytes(peer.client, rest);
-                      rest.remove_prefix(sent < 0 ? rest.size() : static_cast<std::size_t>(sent));
-                  }
+                  SendBytes(peer.client, answer);
               },
               address) {}
 };
