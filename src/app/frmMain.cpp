@@ -153,11 +153,11 @@ void frmMain::OnSaveAndNext() {
 }
 
 void frmMain::OnNext() {
-    lbxTokens->Click(static_cast<std::size_t>(lbxTokens->GetSelection() + 1));
+    lbxTokens->Click(static_cast<std::size_t>(lbxTokens->GetSelection()) + 1);
 }
 
 void frmMain::OnPrevious() {
-    lbxTokens->Click(static_cast<std::size_t>(lbxTokens->GetSelection() - 1));
+    lbxTokens->Click(static_cast<std::size_t>(lbxTokens->GetSelection()) - 1);
 }
 
 void frmMain::OnNextUntranslated() {
