@@ -29,6 +29,12 @@ void RunIn(wxDialog& dialog, const std::function<void(wxDialog&)>& actions) {
     }
 }
 
+void Raise(wxWindow& window, wxEventType type, int id) {
+    wxCommandEvent event(type, id);
+    window.ProcessWindowEvent(event);
+    Settle();
+}
+
 void FailTheTest(const wxString& file, int line, const wxString& /*function*/,
                  const wxString& condition, const wxString& message) {
     ADD_FAILURE_AT(file.utf8_str(), line) << condition << " " << message;
@@ -75,18 +81,13 @@ void Press(wxWindow& parent, const wxString& button) {
     EXPECT_TRUE(pressed.IsEnabled()) << button;
     const wxRect screen = wxDisplay(&pressed).GetClientArea();
     EXPECT_TRUE(screen.Contains(pressed.GetScreenRect())) << button << " is off the screen";
-    wxCommandEvent event(wxEVT_BUTTON, pressed.GetId());
-    event.SetEventObject(&pressed);
-    pressed.Command(event);
-    Settle();
+    Raise(pressed, wxEVT_BUTTON, pressed.GetId());
 }
 
 void Choose(wxFrame& frame, const wxString& menu, const wxString& entry) {
     const int id = frame.GetMenuBar()->FindMenuItem(menu, entry);
     EXPECT_NE(id, wxNOT_FOUND) << menu << " > " << entry;
-    wxCommandEvent event(wxEVT_MENU, id);
-    frame.ProcessWindowEvent(event);
-    Settle();
+    Raise(frame, wxEVT_MENU, id);
 }
 
 void Pick(wxWindow& parent, const wxString& list, const std::u16string& entry) {
@@ -94,9 +95,7 @@ void Pick(wxWindow& parent, const wxString& list, const std::u16string& entry) {
     const int found = picked.FindString(ToWx(entry), true);
     ASSERT_NE(found, wxNOT_FOUND) << ToWx(entry);
     picked.SetSelection(found);
-    wxCommandEvent event(wxEVT_LISTBOX, picked.GetId());
-    picked.ProcessWindowEvent(event);
-    Settle();
+    Raise(picked, wxEVT_LISTBOX, picked.GetId());
 }
 
 void Type(wxWindow& parent, const wxString& box, const std::u16string& text) {
@@ -176,6 +175,5 @@ int WindowScript::Enter(wxDialog* dialog) {
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     wxApp::SetInstance(new cvlang::TestApp);
-    int count = 1;
-    return wxEntry(count, argv);
+    return wxEntry(argc, argv);
 }
