@@ -51,6 +51,8 @@ void frmAddToken::ShowFor(const wxString& title, const wxString& caption,
         EndDialog(wxID_OK);
     });
     ShowModal();
+    // When a box and its dialog close at once, window managers leave no window active.
+    GetParent()->Raise();
 }
 
 }  // namespace cvlang

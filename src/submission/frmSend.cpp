@@ -83,11 +83,10 @@ void frmSend::SubmitAllFiles(const std::filesystem::path& sMapFilePath, Selectio
     selection.language = kAllLanguages;
     SetMessageText(selection);
     const auto files = MapFilesOfBase(sMapFilePath, selection);
-    if (files.empty()) {
+    if (files.empty())
         program_.messages.Show(NothingToSubmit(selection.base));
-        return;
-    }
-    Open(files);
+    else
+        Open(files);
 }
 
 void frmSend::SetMessageText(const Selection& selection) {
@@ -104,6 +103,8 @@ void frmSend::Open(const std::vector<std::filesystem::path>& files) {
     }
     Attach(files);
     ShowModal();
+    // As the box and the dialog close at once, window managers leave no window active.
+    GetParent()->Raise();
 }
 
 /// Starts a new message, which has these attachments and no others.
