@@ -202,10 +202,9 @@ TEST(TokenFileFetch, AnUnknownLanguageIsWarnedOfAndProgressIsShown) {
     FakeProgram fake;
     Fetch(fake, LatePeer(2).Port(), u"Klingon");
     EXPECT_EQ(FileBytes("WebMail-default-tokens-.map"), "later");
-    const UserMessage& warning = fake.messages.shown.at(1);
-    EXPECT_EQ(warning.text, u"Language Symbol not found");
-    EXPECT_EQ(warning.title, u"Warning");
-    EXPECT_EQ(warning.icon, MessageIcon::Exclamation);
+    EXPECT_THAT(fake.messages.shown.at(1),
+                testing::FieldsAre(u"Language Symbol not found", u"Warning", MessageButtons::Ok,
+                                   MessageIcon::Exclamation));
     EXPECT_EQ(std::pair(fake.progress.begun, fake.progress.ended), std::pair(1, 1));
     EXPECT_GT(fake.progress.steps, 6);  // more than one a second
     const LoopbackPeer late = LatePeer(1);

@@ -8,27 +8,22 @@
 
 int main(int, char** argv) {
     using namespace cvlang;
-    FakeRegistry registry;
-    registry.strings[u"Application Directory"] = TextFromPath(argv[1]);
-    registry.numbers[u"Authoring Version"] = 2;
-    const Configuration config(registry);
-    Logs logs;
-    RecordingMessages messages;
-    Program program{config, logs, messages};
+    BareProgram bare;
+    bare.registry.strings[u"Application Directory"] = TextFromPath(argv[1]);
     const Selection selection{u"WebMail", u"default.net", u"French"};
-    const auto reference = GetReferenceMapFilePath(config, selection);
+    const auto reference = GetReferenceMapFilePath(bare.config, selection);
     const std::string change = argv[2];
     std::signal(SIGXFSZ, SIG_IGN);
     try {
         if (change == "update") {
-            UpdateToken(program, selection, u"[CV_TXT-INBOX]", u"new");
+            UpdateToken(bare.program, selection, u"[CV_TXT-INBOX]", u"new");
         } else if (change == "add") {
             AddTokenLine(reference, u"NEW", u"value");
         } else if (change == "remove") {
             RemoveFromReferenceFile(reference, u"[CV_TXT-INBOX]");
             RemoveFromLanguageFiles(reference, u"[CV_TXT-INBOX]");
         } else {
-            AddLanguageToBase(program, selection, u"Klingon", u"tlh");
+            AddLanguageToBase(bare.program, selection, u"Klingon", u"tlh");
         }
     } catch (const std::exception&) {
         return 0;  // a window shows it

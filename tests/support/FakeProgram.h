@@ -84,12 +84,23 @@ struct CountingProgress : Progress {
     int begun = 0, ended = 0, steps = 0;
 };
 
+/// A program of authoring version 2, without an application directory.
+struct BareProgram {
+    BareProgram() { registry.numbers[u"Authoring Version"] = 2; }
+
+    FakeRegistry registry;
+    Configuration config{registry};
+    Logs logs;
+    RecordingMessages messages;
+    Program program{config, logs, messages};
+};
+
 /// A program whose application directory is a temporary folder.
-struct FakeProgram {
+struct FakeProgram : BareProgram {
     FakeProgram() {
         program.progress = &progress;
         registry.strings[u"Application Directory"] = TextFromPath(folder.Path());
-        registry.numbers[u"Authoring Version"] = 2;
+        logs = Logs(FixedClock, folder / "trace" / "CVTrans.log");
     }
 
     static LocalTime FixedClock() { return {2004, 3, 7, 9, 5, 3}; }
@@ -97,12 +108,7 @@ struct FakeProgram {
     std::string ErrorLog() const { return FileBytes(folder / "LangPort.log"); }
 
     TemporaryFolder folder;
-    FakeRegistry registry;
-    Configuration config{registry};
-    Logs logs{FixedClock, folder / "trace" / "CVTrans.log"};
-    RecordingMessages messages;
     CountingProgress progress;
-    Program program{config, logs, messages};
 };
 
 }  // namespace cvlang

@@ -1,5 +1,5 @@
 // The files of the translation store, read and written as they are.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "support/FakeProgram.h"
 #include "text/Strings.h"
@@ -114,10 +114,9 @@ TEST(TokenMapFile, EachLineIsLoadedAtItsNumberAndTheFirstExactTokenIsFound) {
         EXPECT_EQ(tokens, (TextArray{u"held", u"[CV_A] ", u"", u"[cv_a]", u"[CV_A]", u"[CV_A]"}));
         EXPECT_EQ(values, (TextArray{u"held", u"blank", u"", u"case", u"1", u""}));
     }
-    for (const auto& [language, value] : {std::pair{u"French", u"1"}, {u"German", u""}}) {
+    for (const auto& [language, value] : {std::pair{u"French", u"1"}, {u"German", u""}})
         EXPECT_EQ(GetTokenValue(fake.program, u"[CV_A]: Hello [x]: y", u"default", language),
                   value);
-    }
 }
 
 TEST(LanguageList, ANewLanguageIsAppendedUnlessItsNameOrAbbreviationIsListed) {
@@ -223,9 +222,8 @@ TEST(TokenMapFile, TokensAreListedWithTheirEnglishValues) {
             Utf16Bytes(u"\t\t\t[CV_A]\tHello: you\tmore\r\n[CV_B]\tfirst field\n"
                        u"\t\t\t[CV_C]\r\t\t\t\tno token\n\t\t\tother\n\t\t\tother\tvalue"));
     EXPECT_EQ(ListTokens("r.map"), (std::vector<std::u16string>{u"[CV_A]: Hello: you", u"[CV_C]"}));
-    const TokenEntry entry = SplitTokenEntry(u" [CV_A] :  Hello : you");
-    EXPECT_EQ(entry.token, u"[CV_A]");
-    EXPECT_EQ(entry.value, u"Hello");
+    EXPECT_THAT(SplitTokenEntry(u" [CV_A] :  Hello : you"),
+                testing::FieldsAre(u"[CV_A]", u"Hello"));
 }
 
 }  // namespace cvlang::tests

@@ -18,13 +18,8 @@ int GenerateAtRoot(const char16_t* language) {
     if (child == 0) {
         if ((geteuid() != 0 && unshare(CLONE_NEWUSER) != 0) || chroot(".") != 0)
             _exit(kCannotChangeRoot);
-        FakeRegistry registry;
-        registry.numbers[u"Authoring Version"] = 2;
-        const Configuration config(registry);
-        Logs logs;
-        RecordingMessages messages;
-        Program program{config, logs, messages};
-        _exit(ApplyTranslation(program, u"WebMail", u"classic", language) ? 0 : 1);
+        BareProgram bare;
+        _exit(ApplyTranslation(bare.program, u"WebMail", u"classic", language) ? 0 : 1);
     }
     int status = -1;
     waitpid(child, &status, 0);

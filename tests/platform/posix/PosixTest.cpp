@@ -1,4 +1,4 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <sys/stat.h>
 
 #include <cstdlib>
@@ -16,6 +16,7 @@
 namespace cvlang::tests {
 
 namespace fs = std::filesystem;
+using testing::_, testing::FieldsAre;
 
 TEST(FindExisting, FindsAnEntryAsWindowsWould) {
     const TemporaryFolder folder;
@@ -114,10 +115,7 @@ TEST(TimeZone, CountsMinutesWestAndSummerTime) {
         {"AAA-1BBB,0/0,J365/25", -60, -60, ZoneTime::Daylight}};  // summer all year
     for (const auto& [zone, bias, daylightBias, time] : cases) {
         setenv("TZ", zone, 1);
-        const TimeZoneInformation found = SystemTimeZone();
-        EXPECT_EQ(found.bias, bias) << zone;
-        EXPECT_EQ(found.daylightBias, daylightBias) << zone;
-        EXPECT_EQ(found.time, time) << zone;
+        EXPECT_THAT(SystemTimeZone(), FieldsAre(bias, _, daylightBias, time)) << zone;
     }
     unsetenv("TZ");
     tzset();
@@ -156,11 +154,8 @@ TEST(RegistryExport, IsReadAsTheImporterOfWindowsReadsIt) {
             {R"("Value"=dword:ffffffff)", {}, -1},
             {R"("Value"=dword:000000002)", {}, {}},
             {R"("Value"=hex(4):02,01,00,80)", {}, -0x7FFFFEFE}};
-    for (const auto& [lines, text, number] : cases) {
-        const RegistryValue value = Value(std::string(kKey) + lines + "\n");
-        EXPECT_EQ(value.text, text) << lines;
-        EXPECT_EQ(value.number, number) << lines;
-    }
+    for (const auto& [lines, text, number] : cases)
+        EXPECT_THAT(Value(std::string(kKey) + lines + "\n"), FieldsAre(text, number)) << lines;
 }
 
 TEST(RegistryExport, ReadsUtf16Utf8AndAnsiWithAndWithoutAMark) {
