@@ -2,7 +2,6 @@
 
 #include <wx/app.h>
 #include <wx/display.h>
-#include <wx/init.h>
 #include <wx/log.h>
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
