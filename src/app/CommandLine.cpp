@@ -31,13 +31,12 @@ ExitStatus RunCommandLine(Program& program, std::u16string_view sCommandLine) {
     program.unattended = true;
     const std::u16string application = GetQuotedField(sCommandLine, u' ', 1);
     const std::u16string base = GetQuotedField(sCommandLine, u' ', 2);
-    const std::u16string language = GetQuotedField(sCommandLine, u' ', 3);
     if (base.empty() || application.empty()) {
         WriteUsage();
         program.messages.Show({u"Invalid arguments"});
         return ExitStatus::InvalidArguments;
     }
-    ApplyTranslation(program, application, base, language);
+    ApplyTranslation(program, application, base, GetQuotedField(sCommandLine, u' ', 3));
     return ExitStatus::Done;
 }
 

@@ -81,12 +81,11 @@ void SelectionList::OnMouseUp(wxMouseEvent& event) {
 
 /// A letter selects the next entry that begins with it, the same on all systems.
 void SelectionList::OnLetter(wxKeyEvent& event) {
-    const wxString letter(event.GetUnicodeKey());
     if (event.HasModifiers() || event.GetUnicodeKey() <= WXK_SPACE) {
         event.Skip();
         return;
     }
-    const std::u16string wanted = ToUpper(FromWx(letter));
+    const std::u16string wanted = ToUpper(FromWx(wxString(event.GetUnicodeKey())));
     const auto start = static_cast<std::size_t>(GetSelection()) + 1;
     for (std::size_t i = 0; i < entries_.size(); ++i) {
         const std::size_t index = (start + i) % entries_.size();

@@ -193,6 +193,22 @@ TEST_F(MainWindowInput, ClicksTheSelectedEntryAndReachesAllControlsByTab) {
     Input("key f");
     EXPECT_EQ(Selected(kLanguages), u"French");
     EXPECT_EQ(Translation(), u"Bonjour");
+
+    // Scrolled and filled anew, lists show their entries from the beginning.
+    Input("key End " + ClickAt(kApplicationList));
+    Input(ClickAt(kLanguages));
+    EXPECT_EQ(Selected(kLanguages), u"Chinese");
+    std::u16string rows;
+    for (int row = 0; row < 60; ++row)
+        rows += u"\t\t\t[CV_TXT-" + std::u16string(300, u'M') + u"]\r\n";
+    PutFile(kReferenceMap, Utf16Bytes(rows));
+    Pick(Window(), kLanguages, u"French");
+    const auto& tokens = Find<SelectionList>(Window(), kTokens);
+    const double atStart = ShareOf(tokens, IsDark);
+    Input(ClickAt(kTokens) + "click --repeat 30 7 click --repeat 30 5");
+    EXPECT_NEAR(ShareOf(tokens, IsDark), atStart, 0.05);
+    Pick(Window(), kLanguages, u"German");
+    EXPECT_NEAR(ShareOf(tokens, IsDark), atStart, 0.01);
 }
 
 TEST_F(MainWindowInput, SaveFindMoveOnAndPaste) {

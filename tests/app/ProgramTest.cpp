@@ -92,11 +92,12 @@ TEST(MakerServices, AreTheBuiltInOnesUnlessTheEnvironmentNamesOthers) {
     for (const std::string text :
          {"http://host", "host:99999", "host:80x", "host:0", "host:", ":80", "a b", "::1", "[::1",
           "[::1]80", "[::1]:", "[host]", "[]", "host/path", "user@host", "host:80:80"}) {
-        const std::u16string start =
-            u'"' + AnsiToUtf16(text) + u"\" is not the address of a server. Please set CORVANE_";
-        const std::u16string end = u"_SERVER to HOST or HOST:PORT, an IPv6 address in brackets.";
-        EXPECT_EQ(NamedServers(text, text),
-                  Servers(start + u"DISTRIBUTION" + end, start + u"SUBMISSION" + end));
+        const auto fault = [&text](std::u16string_view service) {
+            std::u16string told = u'"' + AnsiToUtf16(text);
+            told.append(u"\" is not the address of a server. Please set CORVANE_").append(service);
+            return told.append(u"_SERVER to HOST or HOST:PORT, an IPv6 address in brackets.");
+        };
+        EXPECT_EQ(NamedServers(text, text), Servers(fault(u"DISTRIBUTION"), fault(u"SUBMISSION")));
     }
 }
 

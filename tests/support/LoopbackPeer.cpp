@@ -16,7 +16,8 @@ LoopbackListener::LoopbackListener(const char* address) {
     sockaddr_storage name{};
     socklen_t size = sizeof name;
     auto* const bound = reinterpret_cast<sockaddr*>(&name);
-    getaddrinfo(address, "0", &hints, &found);
+    if (getaddrinfo(address, "0", &hints, &found) != 0)
+        throw std::runtime_error("not an address of this computer");
     const auto socket = ::socket(found->ai_family, kSocketType, IPPROTO_TCP);
     socket_ = static_cast<SocketHandle>(socket);
     const bool listens =

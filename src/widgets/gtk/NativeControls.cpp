@@ -17,6 +17,18 @@ void NameWidget(GtkWidget* widget, gpointer name) {
         gtk_container_foreach(GTK_CONTAINER(widget), NameWidget, name);
 }
 
+/// Runs once all rows are measured. GTK sometimes loses its own request to lay them out again, and
+/// then draws no row beyond the former width.
+gboolean LayOutRows(gpointer tree) {
+    GtkAllocation place;
+    gtk_widget_get_allocation(GTK_WIDGET(tree), &place);
+    gtk_widget_queue_resize(GTK_WIDGET(tree));
+    gtk_widget_get_preferred_size(GTK_WIDGET(tree), nullptr, nullptr);
+    if (gtk_widget_get_mapped(GTK_WIDGET(tree)))
+        gtk_widget_size_allocate(GTK_WIDGET(tree), &place);
+    return G_SOURCE_REMOVE;
+}
+
 }  // namespace
 
 void ReplaceEntries(wxListBox& list, const wxArrayString& entries) {
@@ -30,6 +42,8 @@ void ReplaceEntries(wxListBox& list, const wxArrayString& entries) {
     gtk_tree_view_set_model(tree, rows);
     g_object_unref(rows);
     gtk_adjustment_set_value(gtk_scrollable_get_hadjustment(GTK_SCROLLABLE(tree)), 0);
+    gtk_adjustment_set_value(gtk_scrollable_get_vadjustment(GTK_SCROLLABLE(tree)), 0);
+    g_idle_add_full(G_PRIORITY_LOW, LayOutRows, g_object_ref(tree), g_object_unref);
 }
 
 void SetAccessibleName(wxWindow& control, const wxString& name) {
