@@ -132,7 +132,7 @@ TEST_F(ContentTree, DebugModeTracesEveryTokenWithItsCountOverAllRuns) {
     fs::create_directory("trace");
     PutFile(sys / "a.asp", "[CV_TXT-A][CV_TXT-A]\r\n[CV_TXT-A]");
     Apply();
-    const std::string time = "2004-03-07 09:05:03\t";
+    const std::string time = Utf16ToAnsi(FormatDateAndTime(FakeProgram::FixedClock())) + "\t";
     EXPECT_EQ(FileBytes("trace/CVTrans.log"),
               time + "[CV_TXT-A]\t7\r\n" + time + "[CV_TXT-B]\t7\r\n");
     EXPECT_EQ(fake.program.tokenUseCounts.size(), 4U);

@@ -82,7 +82,11 @@ struct WebPeer : LoopbackPeer {
         : LoopbackPeer(
               [answer, body](LoopbackPeer& peer) {
                   peer.ReceiveUntil("\r\n\r\n" + body);
-                  SendBytes(peer.client, answer);
+                  for (std::string_view rest = answer;
+                       !rest.empty();) {  // takes several on Windows
+                      const std::ptrdiff_t sent = SendBytes(peer.client, rest);
+                      rest.remove_prefix(sent < 0 ? rest.size() : static_cast<std::size_t>(sent));
+                  }
               },
               address) {}
 };
