@@ -72,8 +72,9 @@ TEST_F(MainWindow, SavesWhatIsTypedAndNothingElse) {
         Type(Window(), kTranslation, value);
         for (int i = 0; i < 2; ++i) {  // as typed, then as loaded
             Press(Window(), "Update File");
-            EXPECT_EQ(FileBytes(kFrenchMap),
-                      Utf16Bytes(kept + u"[CV_TXT-BYE]\t" + value + u"\r\n"));
+            std::u16string saved = kept;
+            saved.append(u"[CV_TXT-BYE]\t").append(value).append(u"\r\n");
+            EXPECT_EQ(FileBytes(kFrenchMap), Utf16Bytes(saved));
             for (const auto& token : {kNew, kBye})
                 Pick(Window(), kTokens, token);
         }

@@ -114,12 +114,13 @@ wxImage ScreenPixels(const wxRect& place) {
 
 double ShareOf(const wxWindow& window, bool (*counts)(int red, int blue)) {
     const wxImage picture = ScreenPixels(window.GetScreenRect());
-    const int pixels = picture.GetWidth() * picture.GetHeight();
+    const wxSize size = picture.GetSize();
     int counted = 0;
-    for (const unsigned char* pixel = picture.GetData(); pixel < picture.GetData() + 3 * pixels;
-         pixel += 3)
-        counted += counts(pixel[0], pixel[2]) ? 1 : 0;
-    return static_cast<double>(counted) / pixels;
+    for (int i = 0; i < size.x * size.y; ++i) {
+        const int x = i % size.x, y = i / size.x;
+        counted += counts(picture.GetRed(x, y), picture.GetBlue(x, y)) ? 1 : 0;
+    }
+    return static_cast<double>(counted) / (size.x * size.y);
 }
 
 WindowScript::~WindowScript() {
