@@ -195,7 +195,7 @@ TEST_F(MainWindowInput, ClicksTheSelectedEntryAndReachesAllControlsByTab) {
     EXPECT_EQ(Selected(kLanguages), u"French");
     EXPECT_EQ(Translation(), u"Bonjour");
 
-    // Scrolled and filled anew, lists show their entries from the beginning.
+    // A list that was scrolled shows its first entries after it is filled again.
     Input("key End " + ClickAt(kApplicationList));
     Input(ClickAt(kLanguages));
     EXPECT_EQ(Selected(kLanguages), u"Chinese");
