@@ -18,13 +18,15 @@ std::u16string_view SplitField(std::u16string_view text, std::u16string_view del
     if (n < 1)
         return {};
     for (int field = 1;; ++field) {
-        const std::size_t end =
-            delimiter.empty() ? std::u16string_view::npos : text.find(delimiter);
+        // For one character faster than text.find(delimiter).
+        const auto found =
+            std::search(text.begin(), text.end(), delimiter.begin(), delimiter.end());
+        const auto* const end = delimiter.empty() ? text.end() : found;
         if (field == n)
-            return text.substr(0, end);
-        if (end == std::u16string_view::npos)
+            return {text.begin(), end};
+        if (end == text.end())
             return {};
-        text.remove_prefix(end + delimiter.size());
+        text = {end + delimiter.size(), text.end()};
     }
 }
 
