@@ -51,8 +51,10 @@ std::u16string ToUpper(std::u16string_view text) {
     static const locale_t letters = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
     std::u16string upper(text);
     std::transform(upper.begin(), upper.end(), upper.begin(), [](char16_t c) {
-        const auto letter = static_cast<wint_t>(c);
-        const auto capital = letters == nullptr ? towupper(letter) : towupper_l(letter, letters);
+        // Fast path: ASCII needs no table.
+        if (c < 0x80)
+            return c >= u'a' && c <= u'z' ? static_cast<char16_t>(c - u'a' + u'A') : c;
+        const auto capital = letters == nullptr ? towupper(c) : towupper_l(c, letters);
         return capital < 0x10000 ? static_cast<char16_t>(capital) : c;
     });
     return upper;
