@@ -40,6 +40,8 @@ std::filesystem::path ExecutableFolder();
 /// each of them.
 class Folder {
   public:
+    /// The current folder: names in it may be whole paths.
+    Folder();
     /// In a folder that does not exist, every operation fails.
     explicit Folder(const std::filesystem::path& path);
     ~Folder();
@@ -82,7 +84,9 @@ class FileContent {
 
 /// Reads a whole file. On failure the content is empty.
 FileStatus ReadFile(const Folder& folder, const std::filesystem::path& name, FileContent& content);
-FileStatus ReadFile(const std::filesystem::path& path, FileContent& content);
+inline FileStatus ReadFile(const std::filesystem::path& path, FileContent& content) {
+    return ReadFile(Folder(), path, content);
+}
 
 /// Whether the bytes are flushed to the disk, so that they survive a power cut.
 enum class Durability { Cached, OnDisk };

@@ -31,9 +31,8 @@ bool IsFolder(const fs::path& path) {
     return fs::is_directory(path, ignored);
 }
 
-FileStatus StatusOfFailedOpen(const fs::path& folder) {
-    return errno == ENOENT && IsFolder(FindExisting(folder)) ? FileStatus::NotFound
-                                                             : FileStatus::OtherError;
+bool ParentExists(const fs::path& path) {
+    return IsFolder(FindExisting(path.has_parent_path() ? path.parent_path() : "."));
 }
 
 int OpenExisting(const Folder& folder, const fs::path& name) {
@@ -147,6 +146,8 @@ fs::path ExecutableFolder() {
     return fs::read_symlink("/proc/self/exe", ignored).parent_path();
 }
 
+Folder::Folder() : descriptor_(AT_FDCWD) {}
+
 Folder::Folder(const fs::path& path)
     : path_(path), descriptor_(Open(Place(path), O_PATH | O_DIRECTORY)) {}
 
@@ -159,8 +160,10 @@ FileStatus ReadFile(const Folder& folder, const fs::path& name, FileContent& con
     content.size_ = 0;
     const Descriptor file(OpenExisting(folder, name));
     struct stat status {};
-    if (!file.IsOpen())
-        return StatusOfFailedOpen(folder.Path());
+    if (!file.IsOpen()) {
+        const bool isMissing = errno == ENOENT && ParentExists(folder.Path() / name);
+        return isMissing ? FileStatus::NotFound : FileStatus::OtherError;
+    }
     if (fstat(file.Number(), &status) != 0 || !S_ISREG(status.st_mode))
         return FileStatus::OtherError;
     content.permissions_ = status.st_mode & 0777;
@@ -180,11 +183,6 @@ FileStatus ReadFile(const Folder& folder, const fs::path& name, FileContent& con
         if (content.size_ == content.capacity_)
             content.Reserve(content.capacity_ * 2);
     }
-}
-
-FileStatus ReadFile(const fs::path& path, FileContent& content) {
-    const fs::path folder = path.has_parent_path() ? path.parent_path() : ".";
-    return ReadFile(Folder(FindExisting(folder)), path.filename(), content);
 }
 
 std::error_code WriteFile(const fs::path& path, std::string_view bytes, Durability durability) {

@@ -86,6 +86,8 @@ std::wstring LongPath(const fs::path& path) {
     return LR"(\\?\)" + full;
 }
 
+Folder::Folder() = default;
+
 Folder::Folder(const fs::path& path) : path_(path) {}
 
 Folder::~Folder() = default;
@@ -117,10 +119,6 @@ FileStatus ReadFile(const Folder& folder, const fs::path& name, FileContent& con
         if (count == room)
             content.Reserve(content.capacity_ * 2);
     }
-}
-
-FileStatus ReadFile(const fs::path& path, FileContent& content) {
-    return ReadFile(Folder(path.parent_path()), path.filename(), content);
 }
 
 std::error_code WriteFile(const fs::path& path, std::string_view bytes, Durability durability) {
