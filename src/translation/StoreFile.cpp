@@ -2,7 +2,6 @@
 
 #include <bit>
 #include <cstdint>
-#include <string>
 
 #include "platform/FileSystem.h"
 #include "platform/Process.h"
@@ -58,9 +57,9 @@ std::u16string_view Utf16File::Text() const {
     return text;
 }
 
-bool WriteUtf16File(const std::filesystem::path& path, std::u16string_view text) {
-    return !WriteFile(path, BytesOf(std::u16string(1, kByteOrderMark).append(text)),
-                      Durability::OnDisk);
+bool WriteUtf16File(const std::filesystem::path& path, std::u16string text) {
+    text.insert(0, 1, kByteOrderMark);
+    return !WriteFile(path, BytesOf(text), Durability::OnDisk);
 }
 
 void AppendOrThrow(const std::filesystem::path& path, std::string_view bytes) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 #include "config/Logs.h"
@@ -30,7 +31,7 @@ class Utf16File {
 
 /// Replaces the content of a file by a byte-order mark and the text, and flushes it to the disk,
 /// because the file that it replaces is deleted next. False on failure.
-bool WriteUtf16File(const std::filesystem::path& path, std::u16string_view text);
+bool WriteUtf16File(const std::filesystem::path& path, std::u16string text);
 
 /// Appends the bytes to a file, and creates a missing one. On failure the file is as it was, and a
 /// filesystem_error with its path and the reason is thrown.

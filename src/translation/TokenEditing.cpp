@@ -1,6 +1,7 @@
 #include "translation/TokenEditing.h"
 
 #include <string>
+#include <utility>
 
 #include "platform/Ansi.h"
 #include "platform/FileSystem.h"
@@ -38,13 +39,14 @@ void RemoveLines(const fs::path& mapFile, std::u16string_view token, TokenOfLine
     if (original.Status() != FileStatus::Okay)
         return;
     std::u16string kept;
+    kept.reserve(original.Text().size() + 1);
     Lines<char16_t> lines(original.Text());
     for (std::u16string_view line; lines.Next(line);) {
         if (tokenOf(line) != token || tokenOf(line).empty())
             kept.append(line).append(kCrLf16);
     }
     const fs::path copy = FindExisting(RemovalCopy(file));
-    if (!WriteUtf16File(copy, kept))
+    if (!WriteUtf16File(copy, std::move(kept)))
         return;
     // Deliberate: the file is deleted before the copy is renamed.
     RemoveFile(file);
