@@ -1,6 +1,5 @@
 #include "translation/TokenMapFile.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "text/Strings.h"
@@ -42,9 +41,6 @@ void LoadTokens(const std::filesystem::path& path, Utf16File& file, TextArray& a
     if (text.empty())
         return;
     file = std::move(mapFile);  // does not move the text
-    const auto lineEnds = static_cast<std::size_t>(std::count(text.begin(), text.end(), u'\n'));
-    arrTokens.reserve(lineEnds + 2);
-    arrValues.reserve(lineEnds + 2);
     std::size_t n = 0;
     Lines<char16_t> lines(text);
     for (std::u16string_view line; lines.Next(line);) {
