@@ -63,16 +63,19 @@ void TokenIndex::Add(TokenNumber number, std::u16string_view token, std::u16stri
         empty_.push_back(number);
         return;
     }
+    // The slot is fetched while the value is encoded.
+    const std::size_t hash = kHash(*ansi);
+    __builtin_prefetch(&slots_[hash & (slots_.size() - 1)]);
     encoded_.clear();
     EncodeUTF8(value, encoded_);
     const std::string_view bytes = BytesToString(encoded_);
-    const bool hasQuotes = std::ranges::any_of(bytes, [](char c) { return c == '\'' || c == '"'; });
+    const bool hasQuotes = bytes.find('\'') != bytes.npos || bytes.find('"') != bytes.npos;
     const bool dependsOnOrder =
         !ansi->starts_with(kPlaceholderPrefix) || bytes.find('[') != std::string_view::npos;
     IndexedToken& stored = tokens_.emplace_back(
-        IndexedToken{number, Store(*ansi), Store(bytes), hasQuotes, dependsOnOrder});
+        IndexedToken{Store(*ansi), Store(bytes), number, hasQuotes, dependsOnOrder});
     if (IsGroup(*ansi)) {
-        AddGroup(stored);
+        AddGroup(stored, hash);
     } else {
         AddIrregular(stored);
     }
@@ -93,9 +96,9 @@ std::size_t TokenIndex::FindSlot(std::string_view token, std::size_t hash) const
     return slot;
 }
 
-void TokenIndex::AddGroup(IndexedToken& token) {
+void TokenIndex::AddGroup(IndexedToken& token, std::size_t hash) {
     hasOtherGroups_ = hasOtherGroups_ || !token.token.starts_with(kPlaceholderPrefix);
-    const IndexedToken*& slot = slots_[FindSlot(token.token, kHash(token.token))];
+    const IndexedToken*& slot = slots_[FindSlot(token.token, hash)];
     token.nextAlike = slot;
     slot = &token;
 }
@@ -116,13 +119,12 @@ void TokenIndex::LookUp(std::string_view page, std::vector<BracketGroup>& groups
         group.token = slots_[FindSlot(group.In(page), group.hash)];
 }
 
-void TokenIndex::AddIrregular(IndexedToken& token) {
+void TokenIndex::AddIrregular(const IndexedToken& token) {
     const std::string_view text = token.token;
-    token.longestPiece = LongestPiece(text);
-    irregular_.push_back(&token);
+    irregular_.emplace_back(LongestPiece(text), &token);
     const std::size_t start = text.find(kPlaceholderPrefix);
     if (start == std::string_view::npos) {
-        loosePieces_.push_back(token.longestPiece);
+        loosePieces_.push_back(irregular_.back().first);
         return;
     }
     const std::size_t end = text.find_first_of("[]", start + 1);
@@ -141,11 +143,11 @@ void TokenIndex::SortPlaceholderStarts() {
 }
 
 const IndexedToken* TokenIndex::FindIrregular(std::string_view text, TokenNumber after) const {
-    const auto found =
-        std::find_if(irregular_.begin(), irregular_.end(), [&](const IndexedToken* token) {
-            return token->number > after && text.find(token->longestPiece) != text.npos;
-        });
-    return found == irregular_.end() ? nullptr : *found;
+    for (const auto& [piece, token] : irregular_) {
+        if (token->number > after && text.find(piece) != text.npos)
+            return token;
+    }
+    return nullptr;
 }
 
 bool TokenIndex::MayHoldPlaceholder(std::string_view text) const {

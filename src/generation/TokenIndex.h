@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "generation/PageScan.h"
@@ -17,16 +18,15 @@ using TokenNumber = std::int32_t;
 
 /// A token as it is searched for in pages and replaced.
 struct IndexedToken {
-    TokenNumber number;
     std::string_view token;
     std::string_view value;
+    TokenNumber number;
     /// Whether the value is written differently inside a script.
     bool hasQuotes;
     /// Whether the order matters in which this token and others are replaced: its value may bring a
     /// placeholder of its own, or the token is no placeholder. Such a token is replaced only while
     /// the line holds placeholders.
     bool dependsOnOrder;
-    std::string_view longestPiece{};          // the longest part without brackets
     const IndexedToken* nextAlike = nullptr;  // the next token of the same text
 };
 
@@ -68,8 +68,8 @@ class TokenIndex {
     void Add(TokenNumber number, std::u16string_view token, std::u16string_view value);
     std::string_view Store(std::string_view text);
     std::size_t FindSlot(std::string_view token, std::size_t hash) const;
-    void AddGroup(IndexedToken& token);
-    void AddIrregular(IndexedToken& token);
+    void AddGroup(IndexedToken& token, std::size_t hash);
+    void AddIrregular(const IndexedToken& token);
     void SortPlaceholderStarts();
 
     TokenNumber upperBound_;
@@ -78,7 +78,8 @@ class TokenIndex {
     // A hash table of the first tokens of their texts: a power of two, at least half of it free.
     std::vector<const IndexedToken*> slots_;
     bool hasOtherGroups_ = false;
-    std::vector<const IndexedToken*> irregular_;       // in order
+    // In order, each with its longest part without brackets.
+    std::vector<std::pair<std::string_view, const IndexedToken*>> irregular_;
     std::vector<std::string_view> loosePieces_;        // of those without a placeholder
     std::vector<std::string_view> placeholderStarts_;  // of the others; sorted, none begins another
     std::vector<TokenNumber> empty_;
