@@ -12,6 +12,7 @@ use_wxwidgets() {
 # cannot show windows.
 use_wine() {
     export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
+    export LC_ALL=C.UTF-8  # without a locale of UTF-8, Wine creates no file with an accent in its name
     [[ -d $WINEPREFIX ]] || fill_wine_prefix
     if ! timeout 60 wineserver --wait; then
         echo "A program that was started earlier still runs under Wine in $WINEPREFIX." >&2
