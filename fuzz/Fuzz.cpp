@@ -1,23 +1,28 @@
 #include "fuzz/Fuzz.h"
 
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
+#include <stdexcept>
 
 #include "text/Unicode.h"
 
 namespace cvlang {
 
-void Must(bool holds, const char* property) {
-    if (holds)
-        return;
-    std::fprintf(stderr, "Does not hold: %s\n", property);
-    std::abort();
+void Must(bool holds, const std::string& property) {
+    if (!holds)
+        throw std::logic_error("Does not hold: " + property);
 }
 
 FakeProgram& Surroundings() {
     static FakeProgram fake;
     return fake;
+}
+
+std::size_t Choices::Number(std::size_t count) {
+    if (rest_.empty())
+        return 0;
+    const auto byte = static_cast<unsigned char>(rest_.front());
+    rest_.remove_prefix(1);
+    return byte % count;
 }
 
 std::string_view TakeLine(std::string_view& input) {

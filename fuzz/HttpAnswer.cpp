@@ -1,46 +1,20 @@
 // An input that begins with "HTTP/" is all that a web server sends, any other the body of a proper
 // answer.
-#include <sys/socket.h>
-
-#include <thread>
-
 #include "download/TokenFileFetch.h"
 #include "fuzz/Fuzz.h"
 #include "support/LoopbackPeer.h"
 #include "text/Strings.h"
 
-namespace cvlang {
-namespace {
-
-/// Answers one request and waits for the client to go: it has then read everything.
-void Answer(const LoopbackListener& listener, const std::string& answer) {
-    const SocketHandle client = listener.Accept();
-    std::string request(1, '\0');
-    while (!request.ends_with("\r\n\r\n") && ReceiveBytes(client, request.data(), 1) == 1)
-        request += request[0];
-    SendBytes(client, answer);
-    shutdown(static_cast<int>(client), SHUT_WR);
-    while (ReceiveBytes(client, request.data(), 1) == 1) {
-    }
-    CloseConnection(client);
-}
-
-}  // namespace
-}  // namespace cvlang
-
 void cvlang::Try(std::string_view input) {
-    static const LoopbackListener listener;
     FakeProgram& fake = Surroundings();
     PutFile("t.map", "mine");
     const bool isRaw = input.starts_with("HTTP/");
     if (isRaw && FindIgnoringCase(input, "location") != input.npos)
         return;  // nobody answers where a redirect leads
     const std::string answer = isRaw ? "" : "HTTP/1.0 200 OK\r\n\r\n";
-    std::thread peer([&] { Answer(listener, answer + std::string(input)); });
-    const bool fetched =
-        DownloadTokenFile(fake.program, {u"127.0.0.1", static_cast<std::uint16_t>(listener.Port())},
-                          u"t.map", u"/", input.ends_with('u'));
-    peer.join();
+    const WebPeer peer(answer + std::string(input));
+    const bool fetched = DownloadTokenFile(fake.program, {u"127.0.0.1", peer.Port()}, u"t.map",
+                                           u"/", input.ends_with('u'));
     const std::string file = FileBytes("t.map");
     std::string body(input);
     if (input.ends_with('u'))

@@ -1,5 +1,4 @@
-// What substitution means, written down plainly: line by line, token by token. The product's is
-// compared with it.
+// The procedure of substitution as it is defined: line by line, token by token.
 #pragma once
 
 #include <cstdint>

@@ -75,8 +75,8 @@ TEST(HttpClient, ReturnsWhatCameWhateverFails) {
         EXPECT_EQ(HttpGet(u"/", u"127.0.0.1", WebPeer(answer).Port()), body);
     LoopbackPeer reset([](LoopbackPeer& peer) {
         peer.ReceiveUntil("\r\n\r\n");
-        SendBytes(peer.client, kOkay + "half");
-        ResetConnection(std::exchange(peer.client, kNoSocket));
+        peer.Send(kOkay + "half");
+        peer.Reset();
     });
     EXPECT_THAT("half", testing::StartsWith(HttpGet(u"/", u"127.0.0.1", reset.Port())));
     for (const char16_t* host : {u"127.0.0.1", u"no-such-host.example"})
@@ -193,7 +193,7 @@ LoopbackPeer LatePeer(int seconds) {
         peer.ReceiveUntil("\r\n\r\n");
         for (const char* part : {kOkay.c_str(), "late", "r"}) {
             std::this_thread::sleep_for(std::chrono::seconds(seconds));
-            SendBytes(peer.client, part);
+            peer.Send(part);
         }
     });
 }

@@ -5,71 +5,41 @@
 #include <functional>
 #include <string>
 #include <thread>
-#include <utility>
 
 #include "mail/HeaderValues.h"
 #include "platform/Sockets.h"
 
 namespace cvlang {
 
-/// Listens on a free port.
-class LoopbackListener {
-  public:
-    explicit LoopbackListener(const char* address = "127.0.0.1");
-    ~LoopbackListener();
-
-    int Port() const { return port_; }
-    /// kNoSocket when nobody connects within a few seconds.
-    SocketHandle Accept() const;
-
-  private:
-    SocketHandle socket_;
-    int port_ = 0;
-};
-
 /// Whether the system's libraries do all that they should. Wine's keep some resets to themselves
 /// and do not forbid caches to answer.
-extern const bool kNetworkIsComplete;
+inline constexpr bool kNetworkIsComplete = NETWORK_IS_COMPLETE;
 
-/// Closes a connection as a peer that crashes does.
-void ResetConnection(SocketHandle socket);
-
-/// Serves one client.
+/// Listens on a free port and serves one client, in a thread of its own. A client that does not
+/// connect within a few seconds is not waited for.
 class LoopbackPeer {
   public:
-    /// What is served runs in a thread of its own, once the client is there.
     explicit LoopbackPeer(std::function<void(LoopbackPeer&)> serve,
-                          const char* address = "127.0.0.1")
-        : listener_(address), thread_([this, serve = std::move(serve)] {
-              client = listener_.Accept();
-              serve(*this);
-              CloseConnection(client);
-          }) {}
-    ~LoopbackPeer() { Received(); }
+                          const char* address = "127.0.0.1");
+    ~LoopbackPeer();
 
-    std::uint16_t Port() const { return static_cast<std::uint16_t>(listener_.Port()); }
-
+    std::uint16_t Port() const { return port_; }
     /// All that the client has sent, once it was served.
-    std::string Received() {
-        if (thread_.joinable())
-            thread_.join();
-        return received_;
-    }
+    std::string Received();
 
     /// Until the client is gone, if there is no such end.
-    bool ReceiveUntil(std::string_view end) {
-        for (char byte = 0; ReceiveBytes(client, &byte, 1) == 1;) {
-            received_ += byte;
-            if (!end.empty() && received_.ends_with(end))
-                return true;
-        }
-        return false;
-    }
-
-    SocketHandle client = kNoSocket;
+    bool ReceiveUntil(std::string_view end);
+    /// All bytes, or as many as the client takes.
+    void Send(std::string_view bytes);
+    /// Closes the connection as a peer that crashes does.
+    void Reset();
 
   private:
-    const LoopbackListener listener_;
+    SocketHandle Accept() const;
+
+    SocketHandle listening_ = kNoSocket;
+    SocketHandle client_ = kNoSocket;
+    std::uint16_t port_ = 0;
     std::string received_;
     std::thread thread_;
 };
@@ -82,11 +52,7 @@ struct WebPeer : LoopbackPeer {
         : LoopbackPeer(
               [answer, body](LoopbackPeer& peer) {
                   peer.ReceiveUntil("\r\n\r\n" + body);
-                  for (std::string_view rest = answer;
-                       !rest.empty();) {  // takes several on Windows
-                      const std::ptrdiff_t sent = SendBytes(peer.client, rest);
-                      rest.remove_prefix(sent < 0 ? rest.size() : static_cast<std::size_t>(sent));
-                  }
+                  peer.Send(answer);
               },
               address) {}
 };
@@ -95,8 +61,8 @@ struct WebPeer : LoopbackPeer {
 /// once it has sent one command more or (amid a message) at once.
 enum class Ending { Listen, Close, Reset, ResetAtOnce };
 
-/// The replies of the script stand between "|". The first one greets, each other one answers a
-/// command, or the message after a 354. Each goes out byte by byte; an empty one lets the client's
+/// The replies of the script are separated by "|". The first one greets, each other one answers a
+/// command, or the message after a 354. Each is sent byte by byte; an empty one lets the client's
 /// minute pass.
 class ScriptedPeer {
   public:
@@ -104,9 +70,11 @@ class ScriptedPeer {
         : script_(std::move(script)), ending_(ending) {}
 
     int Port() const { return peer_.Port(); }
+    /// All that the client has sent, once it is done.
+    std::string Received() { return peer_.Received(); }
 
-    /// Stands still, but for silences and when the script is over. What is on its way then has the
-    /// time to arrive: the client asks without a rest.
+    /// Stops, but for silences and when the script is over. What is on its way then has the time
+    /// to arrive: the client asks without a rest.
     Clock ClientsClock() {
         return [this] {
             if (isOver_) {
@@ -117,30 +85,26 @@ class ScriptedPeer {
         };
     }
 
-    /// All that the client has sent, once it is done.
-    std::string Received() { return peer_.Received(); }
-
   private:
-    static bool ReceiveCommand(LoopbackPeer& peer, std::string_view answered) {
-        return peer.ReceiveUntil(answered.starts_with("354") ? "\r\n.\r\n" : "\r\n");
-    }
-
     void Run(LoopbackPeer& peer) {
+        const auto receiveCommand = [&peer](std::string_view answered) {
+            return peer.ReceiveUntil(answered.starts_with("354") ? "\r\n.\r\n" : "\r\n");
+        };
         const auto replies = SplitList(script_, '|');
         bool connected = !script_.empty();
         for (std::size_t i = 0; i < replies.size() && connected; ++i) {
-            connected = i == 0 || ReceiveCommand(peer, replies[i - 1]);
+            connected = i == 0 || receiveCommand(replies[i - 1]);
             seconds_ += replies[i].empty() ? 60 : 0;
             for (const char& byte : replies[i])
-                SendBytes(peer.client, {&byte, 1});
+                peer.Send({&byte, 1});
         }
         isOver_ = ending_ == Ending::Listen;
         if (isOver_)
             peer.ReceiveUntil("");
         if ((ending_ == Ending::Close || ending_ == Ending::Reset) && !script_.empty())
-            ReceiveCommand(peer, replies.back());
+            receiveCommand(replies.back());
         if (ending_ >= Ending::Reset)
-            ResetConnection(std::exchange(peer.client, kNoSocket));
+            peer.Reset();
         isOver_ = true;
     }
 
