@@ -11,8 +11,7 @@ int main(int argumentCount, char** arguments) {
     cvlang::Message message(config, logs);
     message.MailFrom = "from@benchmark.example";
     message.MailTo = "to@benchmark.example";
-    for (int i = 1; i < argumentCount; ++i) {
+    for (int i = 1; i < argumentCount; ++i)
         message.AddAttachment(arguments[i], "");
-    }
     std::cout << message.ComposeText().size() << '\n';
 }

@@ -1,22 +1,19 @@
 // Copies the reference folder into the language folder, then reads, deletes and creates each page
 // of the copy. The lower bound of a program that copies first and deletes pages to rewrite them.
-
 #include "yardstick.h"
 
 namespace {
 
-using namespace yardstick;
+using namespace cvlang::yardstick;
 
-void RewritePages(const Folder& folder, Buffer& buffer) {
-    for (const auto& [name, inner] : folder.entries()) {
-        if (inner) {
-            RewritePages(Folder(folder.get(), name.c_str()), buffer);
-        } else if (isPage(name)) {
-            const std::size_t size = readWhole(folder.get(), name.c_str(), buffer);
-            if (::unlinkat(folder.get(), name.c_str(), 0) != 0) {
-                fail(name.c_str());
-            }
-            writeNew(folder.get(), name.c_str(), buffer.data(), size);
+void RewritePages(const ListedFolder& folder, Buffer& buffer) {
+    for (const auto& [name, isFolder] : folder.Entries()) {
+        if (isFolder) {
+            RewritePages(ListedFolder(folder.Number(), name), buffer);
+        } else if (IsPage(name)) {
+            const std::string_view page = ReadWhole(folder.Number(), name, buffer);
+            Require(unlinkat(folder.Number(), name.c_str(), 0) == 0, name);
+            WriteNew(folder.Number(), name, page);
         }
     }
 }
@@ -24,9 +21,9 @@ void RewritePages(const Folder& folder, Buffer& buffer) {
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-    return run(argumentCount, arguments,
+    return Run(argumentCount, arguments,
                [](const char* reference, const char* language, Buffer& buffer) {
-                   copyFolder(reference, language, buffer);
-                   RewritePages(Folder(AT_FDCWD, language), buffer);
+                   CopyFolder(reference, language, buffer);
+                   RewritePages(ListedFolder(AT_FDCWD, language), buffer);
                });
 }
