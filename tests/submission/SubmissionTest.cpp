@@ -22,7 +22,7 @@ TEST(Submission, AllMapFilesOfTheBaseAreFoundByTheirExactName) {
               (std::vector{folder / "A-b.net-tokens-fr.map", reference}));
 }
 
-TEST(Submission, TheFirstFaultyAddressIsTold) {
+TEST(Submission, TheFirstFaultyAddressIsReported) {
     const std::u16string ask = u"Please specify a valid email address for the '";
     const std::tuple<std::u16string, std::u16string, std::u16string> cases[] = {
         {u"@x", u"a@b", u""},
