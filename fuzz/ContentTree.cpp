@@ -88,7 +88,7 @@ class Installation {
         fs::create_directories(path.parent_path(), failed);
         if (failed || fs::exists(fs::symlink_status(path)))
             return;
-        const int kind = path.has_extension() ? choices_.Of({0, 0, 0, 0, 0, 0, 0, 0, 1, 2}) : 3;
+        const int kind = path.has_extension() ? choices_.Of({0, 0, 0, 0, 0, 1, 2}) : 3;
         if (kind == 3) {
             fs::create_directory_symlink(lang_ / choices_.Of({"SYS", "fr", "SYS/in", "outside"}),
                                          path, failed);
