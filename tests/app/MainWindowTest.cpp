@@ -130,8 +130,12 @@ TEST_F(MainWindowInput, HasNoEffectWhileTheProgramAsksForPatience) {
         const auto isFilled = [](int red, int blue) { return blue > red + 60; };
         EXPECT_NEAR(ShareOf(Find<wxGauge>(wait, "gauge"), isFilled), done / 4.0, 0.15);
     }
-    for (const char* label : {"lblStatusMessage", "lblTimeMessage"})
-        EXPECT_GT(ShareOf(Find<wxWindow>(wait, label), IsDark), 0.02);
+    for (const auto& [name, text] :
+         {std::pair{"lblStatusMessage", "Corvane setup is now processing your request."},
+          {"lblTimeMessage", "This process may take several minutes. Please wait..."}}) {
+        EXPECT_EQ(Find<wxWindow>(wait, name).GetLabel(), text);
+        EXPECT_GT(ShareOf(Find<wxWindow>(wait, name), IsDark), 0.02);
+    }
     Input("key Escape key alt+F4 " + quit, 0);
     EXPECT_EQ(std::tuple(wait.IsShown(), wxIsBusy(), Window().IsEnabled()),
               std::tuple(true, true, false));
@@ -189,6 +193,19 @@ TEST_F(MainWindowInput, ClicksTheSelectedEntryAndReachesAllControlsByTab) {
 
     Find<wxWindow>(Window(), kLanguages).SetFocus();
     Settle();
+    // The click may be the one that brings back the window.
+    wxFrame other(nullptr, wxID_ANY, "other", {0, 0}, {1, 1});
+    other.Show();
+    Settle(100);
+    EXPECT_FALSE(Window().IsActive());
+    std::string press = ClickAt(kLanguages);
+    Input(press.replace(press.find("click"), 5, "mousedown"), 500);
+    Input("mouseup 1");
+    EXPECT_EQ(Selected(kLanguages), u"Chinese");
+    Input(ClickAt(kApplicationList));
+
+    Find<wxWindow>(Window(), kLanguages).SetFocus();
+    Settle();
     Input("key Down");  // an arrow key does click, and so does a letter
     EXPECT_EQ(Translation(), u"5");
     Input("key f");
@@ -206,7 +223,7 @@ TEST_F(MainWindowInput, ClicksTheSelectedEntryAndReachesAllControlsByTab) {
     Pick(Window(), kLanguages, u"French");
     const auto& tokens = Find<SelectionList>(Window(), kTokens);
     const double atStart = ShareOf(tokens, IsDark);
-    Input(ClickAt(kTokens) + "click --repeat 30 7 click --repeat 30 5");
+    Input(ClickAt(kTokens) + "click --repeat 30 7 click --repeat 30 5 mousemove 0 0");
     EXPECT_NEAR(ShareOf(tokens, IsDark), atStart, 0.05);
     Pick(Window(), kLanguages, u"German");
     EXPECT_NEAR(ShareOf(tokens, IsDark), atStart, 0.01);
@@ -214,8 +231,9 @@ TEST_F(MainWindowInput, ClicksTheSelectedEntryAndReachesAllControlsByTab) {
 
 TEST_F(MainWindowInput, SaveFindMoveOnAndPaste) {
     Pick(Window(), kLanguages, u"French");
-    Find<wxWindow>(Window(), kTranslation).SetFocus();
-    Find<TextBox>(Window(), kTranslation).SetInsertionPointEnd();
+    auto& box = Find<TextBox>(Window(), kTranslation);
+    box.SetFocus();
+    box.SetInsertionPointEnd();
     for (const char* wanted : {"o", "new"}) {
         script_.ExpectDialog("Find", [wanted](wxDialog& dialog) {
             dynamic_cast<wxTextEntryDialog&>(dialog).SetValue(wanted);
@@ -244,13 +262,16 @@ TEST_F(MainWindowInput, SaveFindMoveOnAndPaste) {
     }
 
     ASSERT_TRUE(wxTheClipboard->Open());
-    wxTheClipboard->SetData(new wxTextDataObject("a\r\nb\tc\nd"));
+    wxTheClipboard->SetData(new wxTextDataObject("a\r\nb\tc\nd\re"));
     wxTheClipboard->Close();
-    Input("key ctrl+v");
-    EXPECT_EQ(Translation(), u"xa b c d");
-    for (const wxString& dropped : {wxString("\te"), wxString('x', 70000)}) {  // is too long
-        Find<TextBox>(Window(), kTranslation).WriteText(dropped);
+    for (const bool isLocked : {false, true}) {
+        box.SetEditable(!isLocked);
+        Input("key ctrl+v");
         EXPECT_EQ(Translation(), u"xa b c d e");
+    }
+    for (const wxString& dropped : {wxString("\tf"), wxString('x', 70000)}) {  // is too long
+        box.WriteText(dropped);
+        EXPECT_EQ(Translation(), u"xa b c d e f");
     }
 }
 
