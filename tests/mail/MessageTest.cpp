@@ -266,6 +266,7 @@ TEST(SmtpDialogue, EveryReplyLeadsToItsConversation) {
             message.AuthenticationMode = missing == "mode" ? 0 : 1;
             message.Username.erase(missing == "user" ? 0 : 4);
             message.Password.erase(missing == "password" ? 0 : 4);
+            message.FailedRecipients = missing == "user" ? "earlier@x" : "";
             const int result = message.SendMessage();
             conversations << "Server: " << testing::PrintToString(script)
                           << ", not given: " << missing << "\n"
@@ -324,6 +325,10 @@ TEST(SmtpReply, TheSetsOrderDecidesAmongTheCodesUntilTheMinuteEnds) {
     EXPECT_EQ(scanner.Add({"25\0", 3}), "");
     EXPECT_EQ(scanner.Add("0"), "250");
     EXPECT_EQ(ReplyScanner("250,550").Add("550 1250"), "250");
+    std::string error;
+    EXPECT_THROW(SMTPProcessClientCommand(kNoSocket, "NOOP", "250", FakeProgram::FixedClock, error),
+                 ReceiveError);
+    EXPECT_THAT(error, StartsWith("Windows Sockets error processing NOOP command: "));
     EXPECT_EQ(MinuteBoundariesBetween({2004, 2, 28, 23, 59, 59}, {2004, 3, 1, 0, 0, 0}), 1441);
 }
 

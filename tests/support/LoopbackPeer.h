@@ -62,7 +62,7 @@ struct WebPeer : LoopbackPeer {
 enum class Ending { Listen, Close, Reset, ResetAtOnce };
 
 /// The replies of the script are separated by "|". The first one greets, each other one answers a
-/// command, or the message after a 354. Each is sent byte by byte; an empty one lets the client's
+/// command, or the message after a 354. Each is sent in two pieces; an empty one lets the client's
 /// minute pass.
 class ScriptedPeer {
   public:
@@ -95,8 +95,8 @@ class ScriptedPeer {
         for (std::size_t i = 0; i < replies.size() && connected; ++i) {
             connected = i == 0 || receiveCommand(replies[i - 1]);
             seconds_ += replies[i].empty() ? 60 : 0;
-            for (const char& byte : replies[i])
-                peer.Send({&byte, 1});
+            peer.Send(replies[i].substr(0, 1));
+            peer.Send(replies[i].substr(replies[i].empty() ? 0 : 1));
         }
         isOver_ = ending_ == Ending::Listen;
         if (isOver_)
