@@ -21,7 +21,7 @@ class ContentTree : public testing::Test {
     ContentTree() {
         PutFile("WebMail-default.net-lang.txt", "French\tfr\r\nZulu\tzu\r\n");
         PutFile("WebMail-default.net-tokens-fr.map",
-                Utf16Bytes(u"[CV_TXT-A]\tvaleur\r\n[CV_TXT-B]\tl'\u00E9t\u00E9\r\n"));
+                Utf16Bytes(u"[CV_TXT-A]\tvaleur\r\n[CV_TXT-B]\tl'\u00E9\u0800\r\n"));
     }
 
     bool Apply(const std::u16string& language = u"French") {
@@ -39,8 +39,8 @@ TEST_F(ContentTree, PagesOfAllKindsAreTranslatedAtAnyDepthAndOtherFilesCopied) {
     const std::tuple<fs::path, std::string, std::string, fs::path> files[] = {
         {"a.asp", kSource, kTranslated, "A.Asp"},
         {"Default.aspx", kMark + "\xE9[CV_TXT-A]", kMark + "\xE9valeur", ""},
-        {"c.ASCX", "[CV_TXT-B]", kMark + "l'\xC3\xA9t\xC3\xA9", ""},
-        {"s.Js", "[CV_TXT-B]", kMark + "l\\'\xC3\xA9t\xC3\xA9", ""},
+        {"c.ASCX", "[CV_TXT-B]", kMark + "l'\xC3\xA9\xE0\xA0\x80", ""},
+        {"s.Js", "[CV_TXT-B]", kMark + "l\\'\xC3\xA9\xE0\xA0\x80", ""},
         {"m.xml", "\r\n", kMark, ""},
         {"in/deep/d.asp", kSource, kTranslated, "In/deep/D.asp"},
         {".asp", kSource, kTranslated, ""},
@@ -64,6 +64,7 @@ TEST_F(ContentTree, PagesOfAllKindsAreTranslatedAtAnyDepthAndOtherFilesCopied) {
             EXPECT_EQ(IsReadOnly(written), name.has_parent_path() && result == kSource) << name;
         }
     }
+    EXPECT_EQ(fake.progress.steps, fake.progress.expected);
     EXPECT_TRUE(fake.messages.shown.empty());
     EXPECT_EQ(fake.ErrorLog(), "(no file)");
 }
@@ -119,14 +120,16 @@ TEST_F(ContentTree, TheQuestionIsAskedOnlyOfAUserWhoHasPagesToLose) {
 }
 
 TEST_F(ContentTree, DebugModeTracesEveryTokenWithItsCountOverAllRuns) {
-    fake.registry.strings[u"DebugMode"] = u"True";
     fake.program.tokenUseCounts = {0, 5, 7, 9};
     fs::create_directory("trace");
     PutFile(sys / "a.asp", "[CV_TXT-A][CV_TXT-A]\r\n[CV_TXT-A]");
     Apply();
+    EXPECT_FALSE(fs::exists("trace/CVTrans.log"));
+    fake.registry.strings[u"DebugMode"] = u"True";
+    Apply();
     const std::string time = Utf16ToAnsi(FormatDateAndTime(FakeProgram::FixedClock())) + "\t";
     EXPECT_EQ(FileBytes("trace/CVTrans.log"),
-              time + "[CV_TXT-A]\t7\r\n" + time + "[CV_TXT-B]\t7\r\n");
+              time + "[CV_TXT-A]\t9\r\n" + time + "[CV_TXT-B]\t7\r\n");
     EXPECT_EQ(fake.program.tokenUseCounts.size(), 4U);
 }
 

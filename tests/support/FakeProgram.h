@@ -80,8 +80,11 @@ struct RecordingMessages : UserMessages {
 struct CountingProgress : Progress {
     void Begin() override { ++begun; }
     void End() override { ++ended; }
+    void Expect(const std::function<std::size_t()>& countSteps) override {
+        expected += static_cast<int>(countSteps());
+    }
     void Step() override { ++steps; }
-    int begun = 0, ended = 0, steps = 0;
+    int begun = 0, ended = 0, steps = 0, expected = 0;
 };
 
 /// A program of authoring version 2, without an application directory.

@@ -19,7 +19,9 @@ int GenerateAtRoot(const char16_t* language) {
         if ((geteuid() != 0 && unshare(CLONE_NEWUSER) != 0) || chroot(".") != 0)
             _exit(kCannotChangeRoot);
         BareProgram bare;
-        _exit(ApplyTranslation(bare.program, u"WebMail", u"classic", language) ? 0 : 1);
+        const Selection selection{u"WebMail", u"classic", language};
+        _exit(!PrepareLanguageFolder(bare.program, selection, 1) ||
+              !ApplyTranslation(bare.program, selection));
     }
     int status = -1;
     waitpid(child, &status, 0);
