@@ -135,10 +135,11 @@ TEST(HttpClient, AsksTheProxyOfTheSystemForTheWholeUrl) {
     SetVariable("no_proxy", "");
 }
 
-const std::string kFile = "WebMail-default-tokens-fr.map";
+const std::string kFile = "WebMail-default-tokens-zu.map";
 
 /// Fetches a language's file of WebMail default from a port of this computer.
-void Fetch(FakeProgram& fake, std::uint16_t port, const std::u16string& language = u"French") {
+void Fetch(FakeProgram& fake, std::uint16_t port, const std::u16string& language = u"Zulu") {
+    PutFile("WebMail-default-lang.txt", "Zulu\tzu\r\n");
     FetchDefaultTranslation(fake.program, {u"127.0.0.1", port}, {u"WebMail", u"default", language});
 }
 
@@ -182,7 +183,7 @@ TEST(TokenFileFetch, AFileThatIsReadOnlyOrAuthoredHereIsNotOverwritten) {
     Fetch(fake, WebPeer(kOkay + "fetched").Port());
     EXPECT_EQ(FileBytes(kFile), "fetched");
     fake.registry.numbers[u"Language Authoring"] = 2;
-    PutFile("WEBMAIL-default-tokens-fr.map", "another spelling");
+    PutFile("WEBMAIL-default-tokens-zu.map", "another spelling");
     Fetch(fake, WebPeer(kOkay + "fetched again").Port());
     EXPECT_EQ(FileBytes(kFile), "fetched again");
 }

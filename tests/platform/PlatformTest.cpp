@@ -56,6 +56,7 @@ TEST(Utf8, EveryTextConvertsBackIncludingLoneSurrogates) {
     }
     EXPECT_EQ(PathFromText({u"a\0b", 3}), PathFromText(u"a\uFFFDb"));
     EXPECT_EQ(Utf16ToUtf8(u"\u00E9\u0800\U0001F600"), "\xC3\xA9\xE0\xA0\x80\xF0\x9F\x98\x80");
+    EXPECT_EQ(Utf8ToUtf16("\xC1\x81\xE0\x81\x81"), std::u16string(5, u'\uFFFD'));  // overlong
 }
 
 }  // namespace cvlang::tests

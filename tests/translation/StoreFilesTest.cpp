@@ -136,7 +136,7 @@ TEST(LanguageList, ANewLanguageIsAppendedUnlessItsNameOrAbbreviationIsListed) {
     const std::string list = "French\tfr\n\nGerman\tde";
     const std::tuple<std::u16string, std::u16string, std::u16string, std::string> cases[] = {
         {u"french", u"DE", name, ""},
-        {u"GERMAN", u"xx", name, ""},
+        {u"GERMAN", u"DE", name, ""},
         {u"Greek", u"FR", abbreviation, ""},
         {u"Greek", u"", abbreviation, ""},  // the blank line has none either
         {u"Fran\u00E7ais", u"\u03B5", u"",
@@ -204,7 +204,7 @@ TEST(TokenEditing, ATokenIsRemovedByItsExactNameFromTheFilesOfItsBase) {
     EXPECT_EQ(FileBytes(std::string(kReference) + "D"), kNoFile);
 
     const std::u16string kept = u"[CV_AB]\t1\r\n\r\nxx[CV_A]\t2\r\n";
-    const std::string before = Utf16Bytes(u"\uFEFF[CV_A]\t3\r\n" + kept + u"[CV_A]\t4\r\n");
+    const std::string before = Utf16Bytes(u"\uFEFF[CV_A]\t3\r\n" + kept + u"x[CV_A]\t4\r\n");
     for (const auto& [name, isOfBase] : {std::pair{"WebMail-default.net-tokens-fr.map", true},
                                          {"webmail-DEFAULT.net-tokens-.map", true},
                                          {"WebMail-default-tokens-fr.map", false},
