@@ -52,7 +52,7 @@ void SelectionList::Click(std::size_t index) {
 // that as a click. Here a focus alone clicks nothing.
 void SelectionList::OnFocus(wxFocusEvent& event) {
     event.Skip();
-    if (GetSelection() == wxNOT_FOUND && !wxGetMouseState().LeftIsDown()) {
+    if (GetSelection() == wxNOT_FOUND) {
         gettingFocus_ = true;
         CallAfter([this] { gettingFocus_ = false; });
     }
@@ -68,6 +68,8 @@ void SelectionList::OnSelected() {
 // The toolkit reports no click on the entry that is selected already.
 void SelectionList::OnMouseDown(wxMouseEvent& event) {
     event.Skip();
+    SetFocus();  // before the toolkit does: what it selects from now on is clicked
+    gettingFocus_ = false;
     pressed_ = HitTest(event.GetPosition()) == GetSelection() ? GetSelection() : wxNOT_FOUND;
 }
 
@@ -89,10 +91,8 @@ void SelectionList::OnLetter(wxKeyEvent& event) {
     const auto start = static_cast<std::size_t>(GetSelection()) + 1;
     for (std::size_t i = 0; i < entries_.size(); ++i) {
         const std::size_t index = (start + i) % entries_.size();
-        if (ToUpper(std::u16string_view(entries_[index]).substr(0, wanted.size())) == wanted) {
-            Click(index);
-            return;
-        }
+        if (ToUpper(std::u16string_view(entries_[index]).substr(0, wanted.size())) == wanted)
+            return Click(index);
     }
 }
 
