@@ -116,8 +116,12 @@ void SetProxy(const std::string& url) {
     const std::string add =
         "reg add \"HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\" /f /v ";
     const std::string enabled = url.empty() ? "0" : "1";
-    EXPECT_EQ(std::system((add + "ProxyEnable /t REG_DWORD /d " + enabled + " > nul").c_str()), 0);
-    EXPECT_EQ(std::system((add + "ProxyServer /d \"" + url + "\" > nul").c_str()), 0);
+    const std::string command = add + "ProxyEnable /t REG_DWORD /d " + enabled + " > nul && " +
+                                add + "ProxyServer /d \"" + url + "\" > nul";
+    int status = -1;
+    for (int tries = 3; status == -1 && tries > 0; --tries)  // Wine sometimes starts no process
+        status = std::system(command.c_str());
+    EXPECT_EQ(status, 0);
 }
 
 TEST(HttpClient, AsksTheProxyOfTheSystemForTheWholeUrl) {
